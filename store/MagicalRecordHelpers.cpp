@@ -1,0 +1,8 @@
+#include "store/MagicalRecordHelpers.h"
+
+#include "store/NSPersistentStoreCoordinator.h"
+
+void MagicalRecordHelpers::cleanUp()
+{
+    NSPersistentStoreCoordinator::MR_setDefaultStoreCoordinator(nullptr);
+}

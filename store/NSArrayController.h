@@ -1,0 +1,69 @@
+#pragma once
+
+#include "foundation/KeyValueObserving.h"
+#include "store/ObjectChanges.h"
+
+#include <QAbstractListModel>
+#include <QItemSelectionModel>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+class NSManagedObject;
+class NSManagedObjectContext;
+
+/// All records of an entity in one context, sorted by a text attribute, as a list that follows
+/// every change, with a selection of its own.
+///
+/// The first record is selected when content arrives, and a neighbour when the selected one goes,
+/// so that something is selected as long as there is anything. Observe "selectionIndex" to follow.
+class NSArrayController : public QAbstractListModel, public KeyValueObject
+{
+    Q_OBJECT
+
+public:
+    /// Sorts ascending by the attribute `sortKey`, by plain comparison; records without it come
+    /// first.
+    NSArrayController(std::string entityName, std::string sortKey, QObject* parent = nullptr);
+
+    /// Shows the records of `context`, none without one. The context must outlive the controller or
+    /// be taken away again. Throws NSError when the records cannot be read; the list is empty then.
+    void setManagedObjectContext(NSManagedObjectContext* context);
+
+    const std::vector<NSManagedObject*>& arrangedObjects() const { return m_arranged; }
+    /// The position of a record; absent when it is not in the list.
+    std::optional<std::size_t> indexOfObject(const NSManagedObject* object) const;
+
+    /// The selection as the tables share it.
+    QItemSelectionModel& selectionModel() { return m_selectionModel; }
+    /// The last selected position; absent when nothing is selected.
+    std::optional<std::size_t> selectionIndex() const;
+    /// A position beyond the list changes nothing; an absent one clears the selection.
+    void setSelectionIndex(std::optional<std::size_t> index);
+    std::vector<NSManagedObject*> selectedObjects() const;
+    /// Selects exactly these; those that are not in the list are left out.
+    void setSelectedObjects(const std::vector<NSManagedObject*>& objects);
+
+    /// Deletes the selected records from the context.
+    void remove();
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    /// The text of the sort attribute, for display and for accessibility.
+    QVariant data(const QModelIndex& index, int role) const override;
+
+private:
+    void updateWithChanges(const ObjectChanges& changes);
+    void removeObject(const NSManagedObject* object);
+    void insertObject(NSManagedObject* object);
+    void rearrangeObject(NSManagedObject* object);
+    bool isShown(const NSManagedObject* object) const;
+    bool sortsBefore(const NSManagedObject* left, const NSManagedObject* right) const;
+    void selectSomething(std::size_t preferredIndex);
+
+    std::string m_entityName;
+    std::string m_sortKey;
+    NSManagedObjectContext* m_context = nullptr;
+    std::vector<NSManagedObject*> m_arranged;
+    QItemSelectionModel m_selectionModel;
+};

@@ -1,0 +1,20 @@
+#include "store/NSError.h"
+
+#include <utility>
+
+NSError::NSError(QString domain, int code, QString description, QString failureReason)
+    : m_domain(std::move(domain))
+    , m_code(code)
+    , m_description(std::move(description))
+    , m_failureReason(std::move(failureReason))
+    , m_what(this->description().toStdString())
+{}
+
+QString NSError::description() const
+{
+    QString text = m_description;
+    if (!m_failureReason.isEmpty()) {
+        text += u" " + m_failureReason;
+    }
+    return text + u" (" + m_domain + u", " + QString::number(m_code) + u")";
+}

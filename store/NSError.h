@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+
+#include <exception>
+#include <string>
+
+/// A failed operation, as it is told to a person: what could not be done, and why.
+class NSError : public std::exception
+{
+public:
+    /// `domain` and `code` name the failure to a program; `description` says to a person what
+    /// failed, `failureReason` why (empty when nothing more is known).
+    NSError(QString domain, int code, QString description, QString failureReason = {});
+
+    const QString& domain() const { return m_domain; }
+    int code() const { return m_code; }
+    const QString& localizedDescription() const { return m_description; }
+    const QString& localizedFailureReason() const { return m_failureReason; }
+
+    /// Everything in one line, for the log.
+    QString description() const;
+    const char* what() const noexcept override { return m_what.c_str(); }
+
+private:
+    QString m_domain;
+    int m_code;
+    QString m_description;
+    QString m_failureReason;
+    std::string m_what;
+};

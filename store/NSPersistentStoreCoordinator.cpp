@@ -1,0 +1,52 @@
+#include "store/NSPersistentStoreCoordinator.h"
+
+#include "store/NSError.h"
+#include "store/SQLiteStore.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+NSPersistentStoreCoordinator*& defaultCoordinator()
+{
+    static NSPersistentStoreCoordinator* coordinator = nullptr;
+    return coordinator;
+}
+
+} // namespace
+
+NSPersistentStoreCoordinator::NSPersistentStoreCoordinator(const NSManagedObjectModel& model)
+    : m_model(model)
+{}
+
+NSPersistentStoreCoordinator::~NSPersistentStoreCoordinator()
+{
+    if (defaultCoordinator() == this) {
+        defaultCoordinator() = nullptr;
+    }
+}
+
+void NSPersistentStoreCoordinator::addPersistentStore(const QString& path)
+{
+    m_store = std::make_unique<SQLiteStore>(m_model, path);
+}
+
+SQLiteStore& NSPersistentStoreCoordinator::store() const
+{
+    if (!m_store) {
+        throw NSError(QStringLiteral("NSPersistentStoreErrorDomain"), 1,
+                      QCoreApplication::translate("NSError", "There is no data file."));
+    }
+    return *m_store;
+}
+
+void NSPersistentStoreCoordinator::MR_setDefaultStoreCoordinator(
+    NSPersistentStoreCoordinator* coordinator)
+{
+    defaultCoordinator() = coordinator;
+}
+
+NSPersistentStoreCoordinator* NSPersistentStoreCoordinator::MR_defaultStoreCoordinator()
+{
+    return defaultCoordinator();
+}

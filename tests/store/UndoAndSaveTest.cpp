@@ -1,0 +1,272 @@
+#include "store/NSError.h"
+#include "tests/support/LibraryStore.h"
+
+#include <QCoreApplication>
+#include <SQLiteCpp/SQLiteCpp.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+#include <sstream>
+
+namespace {
+
+class UndoAndSaveTest : public testing::Test
+{
+protected:
+    UndoAndSaveTest() { store.open(); }
+
+    NSManagedObjectContext& context() { return store.context(); }
+    NSUndoManager& undoManager() { return context().undoManager(); }
+
+    void endStep(const char* name = "Step")
+    {
+        undoManager().setActionName(QString::fromLatin1(name));
+        context().save();
+    }
+    void undo()
+    {
+        undoManager().undo();
+        context().save();
+    }
+    void redo()
+    {
+        undoManager().redo();
+        context().save();
+    }
+
+    LibraryStore store;
+};
+
+/// Every record of a context with its values, its owner and its members, as text.
+std::string snapshot(NSManagedObjectContext& context)
+{
+    const auto id = [](const NSManagedObject* record) {
+        return record ? record->recordID().value_or(0) : 0;
+    };
+    std::vector<std::string> lines;
+    for (const auto* const library : context.executeFetchRequest({"Library"})) {
+        std::vector<std::int64_t> members;
+        std::ranges::transform(library->relatedObjects("books"), std::back_inserter(members), id);
+        std::ranges::sort(members);
+        std::ostringstream line;
+        line << "library " << id(library) << ' ' << textOf(*library, "name").toStdString();
+        for (const auto member : members) {
+            line << ' ' << member;
+        }
+        lines.push_back(line.str());
+    }
+    for (const auto* const book : context.executeFetchRequest({"Book"})) {
+        std::ostringstream line;
+        line << "book " << id(book) << ' ' << textOf(*book, "title").toStdString() << ' '
+             << decimalOf(*book, "price") << " in " << id(book->relatedObject("library"));
+        lines.push_back(line.str());
+    }
+    std::ranges::sort(lines);
+    std::string result;
+    for (const auto& line : lines) {
+        result += line + '\n';
+    }
+    return result;
+}
+
+/// The snapshot as a save that looks at every record would leave it.
+std::string corrected(std::string text)
+{
+    for (std::size_t minus = text.find(" -"); minus != std::string::npos; minus = text.find(" -")) {
+        text.replace(minus, text.find(' ', minus + 1) - minus, " 0");
+    }
+    return text;
+}
+
+} // namespace
+
+TEST_F(UndoAndSaveTest, undoReachesBackAcrossSavesAndRevivesTheSameRecords)
+{
+    auto& city = store.insertLibrary(QStringLiteral("City"));
+    auto& book = store.insertBook(&city, QStringLiteral("Emma"), "5");
+    endStep("Add");
+    const auto bookID = book.recordID();
+    context().deleteObject(city);
+    endStep("Delete");
+    EXPECT_EQ(undoManager().undoActionName(), QStringLiteral("Delete"));
+    undo();
+    EXPECT_FALSE(book.isDeleted());
+    EXPECT_EQ(book.recordID(), bookID);
+    EXPECT_EQ(book.relatedObject("library"), &city);
+    EXPECT_EQ(city.relatedObjects("books"), std::vector<NSManagedObject*>{&book});
+    EXPECT_EQ(decimalOf(book, "price"), "5");
+    undo();
+    EXPECT_TRUE(book.isDeleted());
+    EXPECT_EQ(context().countForFetchRequest({"Library"}), 0);
+    store.insertBook(nullptr, QStringLiteral("in between"));
+    context().save();
+    EXPECT_FALSE(undoManager().canRedo());
+}
+
+TEST_F(UndoAndSaveTest, aKeyIsNotUsedTwiceWhileItsRecordCanComeBack)
+{
+    auto& first = store.insertBook(nullptr, QStringLiteral("First"));
+    endStep();
+    context().deleteObject(first);
+    endStep();
+    auto& second = store.insertBook(nullptr, QStringLiteral("Second"));
+    endStep();
+    EXPECT_NE(first.recordID(), second.recordID());
+    undo();
+    undo();
+    redo();
+    redo();
+    EXPECT_TRUE(first.isDeleted());
+    EXPECT_EQ(textOf(second, "title"), QStringLiteral("Second"));
+}
+
+TEST_F(UndoAndSaveTest, validationCorrectsChangedRecordsInTheSameStep)
+{
+    auto& book = store.insertBook(nullptr, QStringLiteral("Emma"), "-1");
+    endStep();
+    EXPECT_EQ(decimalOf(book, "price"), "-1") << "a new record is saved as it is";
+    book.setValueForKey(QStringLiteral("Persuasion"), "title");
+    endStep();
+    EXPECT_EQ(decimalOf(book, "price"), "0");
+    EXPECT_FALSE(context().hasChanges());
+    undo();
+    EXPECT_EQ(textOf(book, "title"), QStringLiteral("Emma"));
+    EXPECT_EQ(decimalOf(book, "price"), "0") << "the save after an undo corrects as well";
+    ASSERT_TRUE(undoManager().canRedo()) << "and leaves the redo";
+    redo();
+    EXPECT_EQ(textOf(book, "title"), QStringLiteral("Persuasion"));
+    undo();
+    undo();
+    EXPECT_TRUE(book.isDeleted());
+    EXPECT_FALSE(undoManager().canUndo());
+}
+
+TEST_F(UndoAndSaveTest, aFailedSaveChangesNothingAndTheNextOneSucceeds)
+{
+    auto& city = store.insertLibrary(QStringLiteral("City"));
+    auto& changed = store.insertBook(&city, QStringLiteral("Emma"));
+    auto& deleted = store.insertBook(&city, QStringLiteral("Persuasion"));
+    context().save();
+    const auto before = snapshot(context());
+
+    changed.setValueForKey(QStringLiteral("Emma II"), "title");
+    context().deleteObject(deleted);
+    auto& added = store.insertBook(&city, QStringLiteral("Sanditon"));
+    SQLite::Database other(store.path().toStdString(), SQLite::OPEN_READWRITE);
+    other.exec("CREATE TRIGGER refuse BEFORE UPDATE ON Book BEGIN SELECT RAISE(ABORT, 'no'); END");
+    try {
+        context().save();
+        FAIL() << "the save succeeded";
+    } catch (const NSError& error) {
+        EXPECT_EQ(error.domain(), QStringLiteral("NSSQLiteErrorDomain"));
+        EXPECT_FALSE(QString::fromLatin1(error.what()).contains(QStringLiteral("Emma")));
+    }
+    {
+        NSManagedObjectContext fresh(store.coordinator());
+        EXPECT_EQ(snapshot(fresh), before);
+    }
+    EXPECT_TRUE(context().hasChanges());
+    EXPECT_FALSE(added.recordID());
+    EXPECT_EQ(context().countForFetchRequest({"Book"}), 2);
+    context().checkInvariants();
+
+    other.exec("DROP TRIGGER refuse");
+    context().save();
+    NSManagedObjectContext fresh(store.coordinator());
+    EXPECT_EQ(snapshot(fresh), snapshot(context()));
+    EXPECT_EQ(textOf(changed, "title"), QStringLiteral("Emma II"));
+}
+
+TEST_F(UndoAndSaveTest, changesMadeWithRegistrationOffLeaveNoStep)
+{
+    auto& book = store.insertBook(nullptr, QStringLiteral("Emma"));
+    {
+        const UndoRegistrationDisabled off(undoManager());
+        context().processPendingChanges();
+    }
+    EXPECT_FALSE(undoManager().canUndo());
+    book.setValueForKey(QStringLiteral("Persuasion"), "title");
+    context().processPendingChanges();
+    EXPECT_TRUE(undoManager().canUndo());
+    undoManager().undo();
+    EXPECT_EQ(textOf(book, "title"), QStringLiteral("Emma"));
+}
+
+TEST_F(UndoAndSaveTest, anyWalkOfChangesIsUndoneAndRedoneExactlyInMemoryAndInTheFile)
+{
+    const auto seed = std::random_device{}();
+    SCOPED_TRACE(testing::Message() << "seed " << seed);
+    std::mt19937 random(seed);
+    const auto below = [&random](std::size_t count) {
+        return std::uniform_int_distribution<std::size_t>(0, count - 1)(random);
+    };
+    const auto any = [&](const char* entity) -> NSManagedObject* {
+        const auto records = context().executeFetchRequest({entity});
+        return records.empty() ? nullptr : records[below(records.size())];
+    };
+    std::vector<std::string> states = {snapshot(context())};
+    std::size_t position = 0;
+    for (int walk = 0; walk < 600; ++walk) {
+        const auto choice = below(8);
+        if (choice == 0 && position > 0) {
+            undo();
+            --position;
+        } else if (choice == 1 && position + 1 < states.size()) {
+            redo();
+            ++position;
+        } else {
+            for (auto change = below(3) + 1; change > 0; --change) {
+                auto* const library = any("Library");
+                auto* const book = any("Book");
+                const auto number = QString::number(below(1000));
+                switch (below(7)) {
+                case 0:
+                    store.insertLibrary(number);
+                    break;
+                case 1:
+                case 2:
+                    store.insertBook(library, number, below(4) == 0 ? "-3" : "4.50");
+                    break;
+                case 3:
+                    if (book) {
+                        book->setRelatedObject("library", library);
+                    }
+                    break;
+                case 4:
+                    if (book) {
+                        book->setValueForKey(number, "title");
+                        book->setValueForKey(NSDecimalNumber(static_cast<int>(below(9)) - 3),
+                                             "price");
+                    }
+                    break;
+                case 5:
+                    if (book) {
+                        context().deleteObject(*book);
+                    }
+                    break;
+                case 6:
+                    if (library && below(3) == 0) {
+                        context().deleteObject(*library);
+                    }
+                    break;
+                }
+            }
+            const bool isStep = context().hasChanges();
+            endStep();
+            if (!isStep) {
+                continue;
+            }
+            states.resize(position + 1);
+            states.push_back(snapshot(context()));
+            ++position;
+        }
+        ASSERT_EQ(corrected(snapshot(context())), corrected(states[position])) << "step " << walk;
+        context().checkInvariants();
+        ASSERT_FALSE(context().hasChanges());
+        if (walk % 20 == 0) {
+            NSManagedObjectContext fresh(store.coordinator());
+            ASSERT_EQ(snapshot(fresh), snapshot(context())) << "step " << walk;
+        }
+    }
+}
