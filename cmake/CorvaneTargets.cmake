@@ -39,18 +39,16 @@ function(corvane_library name)
     target_link_libraries(${name} PUBLIC ${arg_LINKS} PRIVATE corvane_options)
 endfunction()
 
-# corvane_test(NAME SOURCES file... LINKS library... [GUI])
+# corvane_test(NAME SOURCES file... LINKS library... [MAIN Core|Gui|App])
 #
-# A test program over one folder. Without GUI it runs on a QCoreApplication and links no widgets;
-# with GUI it runs on the offscreen platform.
+# A test program over one folder. It runs on a QCoreApplication and links no widgets, unless MAIN
+# asks for a QApplication (Gui) or the program's own (App), on the offscreen platform.
 function(corvane_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "GUI" "" "SOURCES;LINKS")
-    if(arg_GUI)
-        set(main support/GuiMain.cpp)
-    else()
-        set(main support/CoreMain.cpp)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "MAIN" "SOURCES;LINKS")
+    if(NOT arg_MAIN)
+        set(arg_MAIN Core)
     endif()
-    add_executable(${name} ${arg_SOURCES} ${main})
+    add_executable(${name} ${arg_SOURCES} support/${arg_MAIN}Main.cpp)
     target_include_directories(${name} PRIVATE "${PROJECT_BINARY_DIR}/include/tests")
     target_link_libraries(${name} PRIVATE ${arg_LINKS} GTest::gtest corvane_options)
     add_test(NAME ${name} COMMAND ${name} --gtest_brief=1)

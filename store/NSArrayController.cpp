@@ -28,6 +28,8 @@ void NSArrayController::setManagedObjectContext(NSManagedObjectContext* context)
     if (!m_context) {
         return;
     }
+    // What is announced from here on is new to the list.
+    m_context->processPendingChanges();
     auto records = m_context->executeFetchRequest({m_entityName});
     std::ranges::stable_sort(
         records, [this](const auto* left, const auto* right) { return sortsBefore(left, right); });
@@ -117,11 +119,15 @@ void NSArrayController::updateWithChanges(const ObjectChanges& changes)
     for (const auto* const object : changes.deleted) {
         removeObject(object);
     }
-    for (auto* const object : changes.updated) {
-        rearrangeObject(object);
-    }
+    rearrange();
     for (auto* const object : changes.inserted) {
         insertObject(object);
+    }
+    for (const auto* const object : changes.updated) {
+        if (const auto row = indexOfObject(object)) {
+            const auto changed = index(static_cast<int>(*row));
+            Q_EMIT dataChanged(changed, changed);
+        }
     }
     if (!selectionIndex()) {
         selectSomething(selectedBefore.value_or(0));
@@ -153,35 +159,28 @@ void NSArrayController::insertObject(NSManagedObject* object)
     endInsertRows();
 }
 
-void NSArrayController::rearrangeObject(NSManagedObject* object)
+void NSArrayController::rearrange()
 {
-    const auto index = indexOfObject(object);
-    if (!index) {
+    const auto isBefore = [this](const auto* left, const auto* right) {
+        return sortsBefore(left, right);
+    };
+    if (std::ranges::is_sorted(m_arranged, isBefore)) {
         return;
     }
-    // Where the object belongs among the others; it keeps its place among equals.
-    const auto from = static_cast<std::ptrdiff_t>(*index);
-    const auto begin = m_arranged.begin();
-    auto to = from;
-    while (to > 0 && sortsBefore(object, begin[to - 1])) {
-        --to;
+    auto order = m_arranged;
+    std::ranges::stable_sort(order, isBefore);
+    for (std::size_t to = 0; to < order.size(); ++to) {
+        const auto from = *indexOfObject(order[to]);
+        if (from != to) {
+            beginMoveRows({}, static_cast<int>(from), static_cast<int>(from), {},
+                          static_cast<int>(to));
+            const auto begin = m_arranged.begin();
+            std::rotate(begin + static_cast<std::ptrdiff_t>(to),
+                        begin + static_cast<std::ptrdiff_t>(from),
+                        begin + static_cast<std::ptrdiff_t>(from) + 1);
+            endMoveRows();
+        }
     }
-    const auto last = static_cast<std::ptrdiff_t>(m_arranged.size()) - 1;
-    while (to >= from && to < last && sortsBefore(begin[to + 1], object)) {
-        ++to;
-    }
-    const int row = static_cast<int>(from);
-    if (to < from) {
-        beginMoveRows({}, row, row, {}, static_cast<int>(to));
-        std::rotate(begin + to, begin + from, begin + from + 1);
-        endMoveRows();
-    } else if (to > from) {
-        beginMoveRows({}, row, row, {}, static_cast<int>(to) + 1);
-        std::rotate(begin + from, begin + from + 1, begin + to + 1);
-        endMoveRows();
-    }
-    const auto changed = this->index(static_cast<int>(to));
-    Q_EMIT dataChanged(changed, changed);
 }
 
 bool NSArrayController::isShown(const NSManagedObject* object) const

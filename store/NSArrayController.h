@@ -56,7 +56,8 @@ private:
     void updateWithChanges(const ObjectChanges& changes);
     void removeObject(const NSManagedObject* object);
     void insertObject(NSManagedObject* object);
-    void rearrangeObject(NSManagedObject* object);
+    /// Moves what is out of order; equals keep their places.
+    void rearrange();
     bool isShown(const NSManagedObject* object) const;
     bool sortsBefore(const NSManagedObject* left, const NSManagedObject* right) const;
     void selectSomething(std::size_t preferredIndex);
