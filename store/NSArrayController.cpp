@@ -167,8 +167,7 @@ void NSArrayController::rearrange()
     if (std::ranges::is_sorted(m_arranged, isBefore)) {
         return;
     }
-    auto order = m_arranged;
-    std::ranges::stable_sort(order, isBefore);
+    const auto order = sorted(m_arranged);
     for (std::size_t to = 0; to < order.size(); ++to) {
         const auto from = *indexOfObject(order[to]);
         if (from != to) {
@@ -186,6 +185,25 @@ void NSArrayController::rearrange()
 bool NSArrayController::isShown(const NSManagedObject* object) const
 {
     return object->entity().name() == m_entityName && !object->isDeleted();
+}
+
+std::vector<NSManagedObject*>
+NSArrayController::sorted(const std::vector<NSManagedObject*>& objects) const
+{
+    // Each key is read once instead of at every comparison.
+    std::vector<std::pair<PropertyValue, NSManagedObject*>> keyed;
+    keyed.reserve(objects.size());
+    for (auto* const object : objects) {
+        keyed.emplace_back(object->valueForKey(m_sortKey), object);
+    }
+    std::ranges::stable_sort(
+        keyed, [](const auto& left, const auto& right) { return left.first < right.first; });
+    std::vector<NSManagedObject*> result;
+    result.reserve(keyed.size());
+    for (const auto& [key, object] : keyed) {
+        result.push_back(object);
+    }
+    return result;
 }
 
 bool NSArrayController::sortsBefore(const NSManagedObject* left, const NSManagedObject* right) const

@@ -58,6 +58,7 @@ private:
     void insertObject(NSManagedObject* object);
     /// Moves what is out of order; equals keep their places.
     void rearrange();
+    std::vector<NSManagedObject*> sorted(const std::vector<NSManagedObject*>& objects) const;
     bool isShown(const NSManagedObject* object) const;
     bool sortsBefore(const NSManagedObject* left, const NSManagedObject* right) const;
     void selectSomething(std::size_t preferredIndex);

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QApplication>
+#include <QByteArray>
+
+class MainWindowController;
+class QKeyEvent;
+
+/// The application: it sends the commands of menus and keys to whom they concern.
+///
+/// A command is the name of a slot, with or without the sender as argument. It goes to the first
+/// that has such a slot: of the widget with the focus, its parents up to the window, the window's
+/// delegate, the application, and the application's delegate. Undo and redo are the exception:
+/// while the main window is active they go to its controller, whatever has the focus.
+class CVApplication : public QApplication
+{
+    Q_OBJECT
+
+public:
+    CVApplication(int& argc, char** argv);
+
+    /// The last to be asked; null for none. Must outlive the application or be taken away.
+    void setDelegate(QObject* delegate) { m_delegate = delegate; }
+
+    /// Who carries out `action`: `to` if given, else as above; null when nobody does. `from` is the
+    /// sender.
+    QObject* targetForAction(const QByteArray& action, QObject* to, QObject* from) const;
+    /// Sends `action` there. False when nobody carries it out.
+    bool sendAction(const QByteArray& action, QObject* to, QObject* from) const;
+
+    /// Lets each menu item of the window send the action that its object name is.
+    void connectActions(QWidget& window);
+
+    /// The net under all event handlers: what one throws is logged.
+    bool notify(QObject* receiver, QEvent* event) override;
+
+public Q_SLOTS:
+    /// Closes the windows, and with the last of them the program. A window that may not close keeps
+    /// it running.
+    void terminate();
+
+private:
+    /// The controller of the active window, when that is the main window.
+    static MainWindowController* keyWindowController();
+    static bool isUndoOrRedo(const QByteArray& action);
+    /// Whether a key event is the undo or redo key on its way to a field of the main window.
+    static bool isUndoOrRedoKey(const QEvent& event);
+
+    QObject* m_delegate = nullptr;
+};

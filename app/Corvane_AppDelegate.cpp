@@ -1,0 +1,176 @@
+#include "app/Corvane_AppDelegate.h"
+
+#include "app/AlertPresenter.h"
+#include "app/AssertionFailure.h"
+#include "app/SupportDirectory.h"
+#include "foundation/Log.h"
+#include "mainwindow/MainWindowController.h"
+#include "model/CVManagedObjectModel.h"
+#include "store/MagicalRecordHelpers.h"
+#include "store/NSError.h"
+#include "store/NSManagedObjectContext.h"
+#include "store/NSPersistentStoreCoordinator.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <sys/stat.h>
+#include <utility>
+
+namespace {
+
+const QString className = QStringLiteral("Corvane_AppDelegate");
+
+} // namespace
+
+Corvane_AppDelegate::Corvane_AppDelegate(AlertPresenter& alerts,
+                                         std::optional<QString> supportDirectory)
+    : m_alerts(alerts)
+    , m_supportDirectory(std::move(supportDirectory))
+{}
+
+Corvane_AppDelegate::~Corvane_AppDelegate() = default;
+
+QString Corvane_AppDelegate::applicationSupportDirectory() const
+{
+    return m_supportDirectory ? *m_supportDirectory : SupportDirectory::path();
+}
+
+void Corvane_AppDelegate::makeApplicationSupportDirectory() const
+{
+    const auto path = applicationSupportDirectory();
+    if (QFileInfo::exists(path)) {
+        return;
+    }
+    if (::mkdir(QFile::encodeName(path).constData(), S_IRWXU) != 0) {
+        const auto error = qt_error_string(errno);
+        Log::line(QStringLiteral("Error creating application support directory at %1 : %2")
+                      .arg(path, error));
+        throw AssertionFailure(
+            QStringLiteral("Failed to create App Support directory %1 : %2").arg(path, error));
+    }
+}
+
+NSManagedObjectModel* Corvane_AppDelegate::managedObjectModel()
+{
+    if (!m_managedObjectModel) {
+        if (auto model = CVManagedObjectModel::mergedModel()) {
+            m_managedObjectModel = std::make_unique<NSManagedObjectModel>(std::move(*model));
+        }
+    }
+    return m_managedObjectModel.get();
+}
+
+NSPersistentStoreCoordinator* Corvane_AppDelegate::persistentStoreCoordinator()
+{
+    if (m_persistentStoreCoordinator) {
+        return m_persistentStoreCoordinator.get();
+    }
+    const auto* const model = managedObjectModel();
+    if (!model) {
+        Log::line(QString(className + u": No model to generate a store from"));
+        throw AssertionFailure(QStringLiteral("Managed object model is nil"));
+    }
+    makeApplicationSupportDirectory();
+    m_persistentStoreCoordinator = std::make_unique<NSPersistentStoreCoordinator>(*model);
+    try {
+        m_persistentStoreCoordinator->addPersistentStore(applicationSupportDirectory() +
+                                                         u"/storedata.sqlite");
+        NSPersistentStoreCoordinator::MR_setDefaultStoreCoordinator(
+            m_persistentStoreCoordinator.get());
+    } catch (const NSError& error) {
+        m_persistentStoreCoordinator.reset();
+        m_alerts.presentError(error);
+    }
+    return m_persistentStoreCoordinator.get();
+}
+
+NSManagedObjectContext* Corvane_AppDelegate::managedObjectContext()
+{
+    if (!m_managedObjectContext) {
+        if (auto* const coordinator = persistentStoreCoordinator()) {
+            m_managedObjectContext = std::make_unique<NSManagedObjectContext>(*coordinator);
+            if (m_mainWindowController) {
+                // The window has been up without data since the store failed to open.
+                m_mainWindowController->setContext(m_managedObjectContext.get());
+            }
+        } else {
+            m_alerts.presentError(NSError(QStringLiteral("CORVANE_ERROR_DOMAIN"), 9999,
+                                          tr("Failed to initialize the store"),
+                                          tr("There was an error building up the data file.")));
+        }
+    }
+    return m_managedObjectContext.get();
+}
+
+void Corvane_AppDelegate::applicationDidFinishLaunching()
+{
+    m_mainWindowController = std::make_unique<MainWindowController>(*this);
+    m_mainWindowController->setContext(managedObjectContext());
+    m_mainWindowController->showWindow();
+}
+
+void Corvane_AppDelegate::saveAction()
+{
+    auto* const context = managedObjectContext();
+    if (!context) {
+        return;
+    }
+    if (!context->commitEditing()) {
+        Log::line(QString(className + u": unable to commit editing before saving"));
+    }
+    try {
+        context->save();
+    } catch (const NSError& error) {
+        m_alerts.presentError(error);
+    }
+}
+
+Corvane_AppDelegate::TerminateReply Corvane_AppDelegate::applicationShouldTerminate()
+{
+    if (!m_managedObjectContext) {
+        return TerminateReply::Now;
+    }
+    if (!m_managedObjectContext->commitEditing()) {
+        Log::line(QString(className + u": unable to commit editing to terminate"));
+        return TerminateReply::Cancel;
+    }
+    if (!m_managedObjectContext->hasChanges()) {
+        return TerminateReply::Now;
+    }
+    try {
+        m_managedObjectContext->save();
+    } catch (const NSError& error) {
+        if (m_alerts.presentError(error)) {
+            return TerminateReply::Cancel;
+        }
+        // Whichever button answers, the program quits: the person has been warned.
+        m_alerts.runModalAlert(
+            {tr("Could not save changes while quitting. Quit anyway?"),
+             tr("Quitting now will lose any changes you have made since the last successful save"),
+             {tr("Quit anyway"), tr("Cancel")}});
+    }
+    MagicalRecordHelpers::cleanUp();
+    return TerminateReply::Now;
+}
+
+bool Corvane_AppDelegate::mayTerminate()
+{
+    return applicationShouldTerminate() == TerminateReply::Now;
+}
+
+void Corvane_AppDelegate::sessionWillEnd()
+{
+    if (!m_managedObjectContext) {
+        return;
+    }
+    if (!m_managedObjectContext->commitEditing()) {
+        Log::line(QString(className + u": unable to commit editing to terminate"));
+    }
+    try {
+        m_managedObjectContext->save();
+    } catch (const NSError& error) {
+        Log::line(QString(u"Unable to save changes while quitting: " + error.description()));
+    }
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+class NSManagedObjectContext;
+
+/// What the main window needs of the application that it lives in.
+class MainWindowHost
+{
+public:
+    virtual ~MainWindowHost() = default;
+
+    /// The store's main context; null when the store cannot be opened, which the person has been
+    /// told by then. Asking again tries again.
+    virtual NSManagedObjectContext* managedObjectContext() = 0;
+    /// Closing the window ends the program: whether it may end now.
+    virtual bool mayTerminate() = 0;
+};

@@ -1,0 +1,134 @@
+#include "app/CVApplication.h"
+
+#include "app/CommandLine.h"
+#include "mainwindow/MainWindowController.h"
+#include "mainwindow/MainWindowHost.h"
+#include "model/CVManagedObjectContext.h"
+#include "store/NSManagedObjectContext.h"
+#include "tests/support/CardStore.h"
+
+#include <QAction>
+#include <QDialog>
+#include <QLineEdit>
+#include <QMenu>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace {
+
+/// Lends a context to a main window.
+class Host : public MainWindowHost
+{
+public:
+    explicit Host(NSManagedObjectContext& context)
+        : m_context(context)
+    {}
+    NSManagedObjectContext* managedObjectContext() override { return &m_context; }
+    bool mayTerminate() override { return true; }
+
+private:
+    NSManagedObjectContext& m_context;
+};
+
+class CVApplicationTest : public testing::Test
+{
+protected:
+    CVApplicationTest()
+    {
+        controller.showWindow();
+        application().connectActions(window());
+        window().activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window()));
+        store.insertCard(QStringLiteral("Aurora"));
+        store.context().save();
+    }
+
+    static CVApplication& application() { return static_cast<CVApplication&>(*qApp); }
+    CVMainWindow& window() { return controller.window(); }
+    std::size_t cards() { return CVManagedObjectContext::cardCount(store.context()); }
+
+    CardStore store;
+    Host host{store.context()};
+    MainWindowController controller{host};
+};
+
+} // namespace
+
+TEST_F(CVApplicationTest, undoAndRedoKeysReachTheWindowWhateverHasTheFocus)
+{
+    QLineEdit field(&window());
+    field.show();
+    field.setFocus();
+    QTest::keyClicks(&field, QStringLiteral("12"));
+    QTest::keyClick(&field, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(cards(), 0);
+    EXPECT_EQ(field.text(), QStringLiteral("12"));
+    QTest::keyClick(&field, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(cards(), 1);
+    EXPECT_EQ(field.text(), QStringLiteral("12"));
+}
+
+TEST_F(CVApplicationTest, aDialogKeepsItsOwnUndoKey)
+{
+    QDialog dialog(&window());
+    QLineEdit field(&dialog);
+    dialog.setModal(true);
+    dialog.show();
+    dialog.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    field.setFocus();
+    QTest::keyClicks(&field, QStringLiteral("12"));
+    QTest::keyClick(&field, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(field.text(), QString());
+    EXPECT_EQ(cards(), 1);
+}
+
+TEST_F(CVApplicationTest, menuItemsSendTheActionThatTheyAreNamedAfter)
+{
+    for (const auto* const action : window().findChildren<QAction*>()) {
+        const bool isItem = !action->menu() && !action->objectName().isEmpty();
+        // Saving is the delegate's, of which there is none here.
+        if (isItem && action->objectName() != u"saveAction") {
+            EXPECT_TRUE(
+                application().targetForAction(action->objectName().toLatin1(), nullptr, nullptr))
+                << action->objectName().toStdString();
+        }
+    }
+    auto* const undo = window().findChild<QAction*>(QStringLiteral("undo"));
+    ASSERT_TRUE(undo);
+    undo->trigger();
+    EXPECT_EQ(cards(), 0);
+    EXPECT_EQ(application().targetForAction("undo", &store.context(), nullptr), &controller);
+    EXPECT_EQ(application().targetForAction("quit", nullptr, nullptr), &application());
+    EXPECT_FALSE(application().sendAction("dance", nullptr, nullptr));
+}
+
+TEST_F(CVApplicationTest, anExceptionInAnEventHandlerDoesNotEndTheProgram)
+{
+    struct Thrower : QObject
+    {
+        bool event(QEvent*) override { throw std::runtime_error("broken"); }
+    };
+    Thrower thrower;
+    QEvent event(QEvent::User);
+    EXPECT_FALSE(QCoreApplication::sendEvent(&thrower, &event));
+}
+
+TEST(CommandLine, takesWhatItKnowsAndRefusesTheRestInOneLine)
+{
+    const auto both = CommandLine::parse(
+        {QStringLiteral("--demo"), QStringLiteral("--snapshot"), QStringLiteral("a.png")});
+    ASSERT_TRUE(std::holds_alternative<CommandLine>(both));
+    EXPECT_TRUE(std::get<CommandLine>(both).isDemo);
+    EXPECT_EQ(std::get<CommandLine>(both).snapshotPath, QStringLiteral("a.png"));
+    for (const auto& mistake : {QStringLiteral("--snapshot"), QStringLiteral("--dance"),
+                                QStringLiteral("file"), QString()}) {
+        const auto parsed = CommandLine::parse({mistake});
+        ASSERT_TRUE(std::holds_alternative<CommandLine::Answer>(parsed));
+        EXPECT_EQ(std::get<CommandLine::Answer>(parsed).exitStatus, 2);
+        EXPECT_FALSE(std::get<CommandLine::Answer>(parsed).text.contains(u'\n'));
+    }
+    EXPECT_EQ(
+        std::get<CommandLine::Answer>(CommandLine::parse({QStringLiteral("--help")})).exitStatus,
+        0);
+}

@@ -1,0 +1,249 @@
+#include "app/Corvane_AppDelegate.h"
+
+#include "app/AlertPresenter.h"
+#include "app/AssertionFailure.h"
+#include "app/StoreLock.h"
+#include "app/SupportDirectory.h"
+#include "foundation/Log.h"
+#include "mainwindow/MainWindowController.h"
+#include "model/CVCard.h"
+#include "store/NSArrayController.h"
+#include "store/NSError.h"
+#include "store/NSManagedObjectContext.h"
+#include "store/NSPersistentStoreCoordinator.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <SQLiteCpp/SQLiteCpp.h>
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace {
+
+/// A person who reads every alert and presses the button that the test says.
+class Person : public AlertPresenter
+{
+public:
+    bool presentError(const NSError& error) override
+    {
+        errors.push_back(error);
+        return recovers;
+    }
+    int runModalAlert(const Alert& alert) override
+    {
+        alerts.push_back(alert);
+        return button;
+    }
+
+    std::vector<NSError> errors;
+    std::vector<Alert> alerts;
+    bool recovers = false;
+    int button = firstButton + 1;
+};
+
+class Corvane_AppDelegateTest : public testing::Test
+{
+protected:
+    QString directory() const { return home.filePath(QStringLiteral("Corvane")); }
+    QString storePath() const { return directory() + QStringLiteral("/storedata.sqlite"); }
+
+    CVCard& insertCard()
+    {
+        auto& card = static_cast<CVCard&>(
+            delegate.managedObjectContext()->insertNewObjectForEntityForName("Card"));
+        card.setName(QStringLiteral("Aurora"));
+        return card;
+    }
+    /// Lets every save fail from now on.
+    void breakStore() const
+    {
+        SQLite::Database(storePath().toStdString(), SQLite::OPEN_READWRITE)
+            .exec("CREATE TRIGGER refuse BEFORE INSERT ON Card BEGIN"
+                  " SELECT RAISE(ABORT, 'refused'); END");
+    }
+
+    QTemporaryDir home;
+    Person person;
+    Corvane_AppDelegate delegate{person, directory()};
+};
+
+} // namespace
+
+TEST_F(Corvane_AppDelegateTest, makesItsDirectoryAndAnEmptyStoreForThePersonAlone)
+{
+    ASSERT_TRUE(delegate.managedObjectContext());
+    EXPECT_EQ(delegate.managedObjectContext(), delegate.managedObjectContext());
+    EXPECT_EQ(QFileInfo(directory()).permissions() & 0x77, QFileDevice::Permissions());
+    EXPECT_EQ(QFileInfo(storePath()).permissions() & 0x77, QFileDevice::Permissions());
+    EXPECT_EQ(NSPersistentStoreCoordinator::MR_defaultStoreCoordinator(),
+              delegate.persistentStoreCoordinator());
+    EXPECT_TRUE(person.errors.empty());
+}
+
+TEST_F(Corvane_AppDelegateTest, makesNoParentsOfItsDirectory)
+{
+    const Log::Collector log;
+    Corvane_AppDelegate homeless(person, home.filePath(QStringLiteral("missing/Corvane")));
+    try {
+        homeless.managedObjectContext();
+        FAIL() << "a context without a directory";
+    } catch (const AssertionFailure& failure) {
+        EXPECT_TRUE(QString::fromUtf8(failure.what())
+                        .startsWith(QStringLiteral("Failed to create App Support directory ")));
+    }
+    ASSERT_EQ(log.lines().size(), 1);
+    EXPECT_TRUE(log.lines()[0].startsWith(
+        QStringLiteral("Error creating application support directory at ")));
+}
+
+TEST_F(Corvane_AppDelegateTest, showsTwoErrorsInARowForAStoreThatFailsToOpenAndTriesAgainLater)
+{
+    QFile blocker(directory());
+    ASSERT_TRUE(blocker.open(QIODevice::WriteOnly));
+    delegate.applicationDidFinishLaunching();
+    ASSERT_EQ(person.errors.size(), 2);
+    EXPECT_NE(person.errors[0].domain(), QStringLiteral("CORVANE_ERROR_DOMAIN"));
+    EXPECT_EQ(person.errors[1].domain(), QStringLiteral("CORVANE_ERROR_DOMAIN"));
+    EXPECT_EQ(person.errors[1].code(), 9999);
+    EXPECT_EQ(person.errors[1].localizedDescription(),
+              QStringLiteral("Failed to initialize the store"));
+    EXPECT_EQ(person.errors[1].localizedFailureReason(),
+              QStringLiteral("There was an error building up the data file."));
+    auto* const controller = delegate.mainWindowController();
+    EXPECT_TRUE(controller->window().isVisible());
+    EXPECT_FALSE(controller->context());
+    EXPECT_EQ(controller->formattedTotals(), QString());
+    controller->undo();
+    EXPECT_EQ(delegate.applicationShouldTerminate(), Corvane_AppDelegate::TerminateReply::Now);
+
+    blocker.remove();
+    delegate.saveAction();
+    EXPECT_EQ(person.errors.size(), 2);
+    EXPECT_EQ(controller->context(), delegate.managedObjectContext());
+    EXPECT_TRUE(controller->context());
+}
+
+TEST_F(Corvane_AppDelegateTest, quitsWithoutAWordWhenThereIsNothingToLose)
+{
+    EXPECT_EQ(delegate.applicationShouldTerminate(), Corvane_AppDelegate::TerminateReply::Now);
+    insertCard();
+    EXPECT_EQ(delegate.applicationShouldTerminate(), Corvane_AppDelegate::TerminateReply::Now);
+    EXPECT_FALSE(delegate.managedObjectContext()->hasChanges());
+    EXPECT_FALSE(NSPersistentStoreCoordinator::MR_defaultStoreCoordinator());
+    EXPECT_TRUE(person.errors.empty());
+    EXPECT_TRUE(person.alerts.empty());
+}
+
+TEST_F(Corvane_AppDelegateTest, quitsAfterEitherButtonWhenSavingFails)
+{
+    insertCard();
+    breakStore();
+    for (const int button : {AlertPresenter::firstButton, AlertPresenter::firstButton + 1}) {
+        person.button = button;
+        EXPECT_EQ(delegate.applicationShouldTerminate(), Corvane_AppDelegate::TerminateReply::Now);
+    }
+    ASSERT_EQ(person.alerts.size(), 2);
+    EXPECT_EQ(person.errors.size(), 2);
+    EXPECT_EQ(person.alerts[0].message,
+              QStringLiteral("Could not save changes while quitting. Quit anyway?"));
+    EXPECT_EQ(person.alerts[0].informativeText,
+              QStringLiteral("Quitting now will lose any changes you have made since the last "
+                             "successful save"));
+    EXPECT_EQ(person.alerts[0].buttonTitles,
+              QStringList({QStringLiteral("Quit anyway"), QStringLiteral("Cancel")}));
+
+    person.recovers = true;
+    EXPECT_EQ(delegate.applicationShouldTerminate(), Corvane_AppDelegate::TerminateReply::Cancel);
+    EXPECT_EQ(person.alerts.size(), 2);
+}
+
+TEST_F(Corvane_AppDelegateTest, waitsForAnEditorThatCannotHandOverAndSavesAllTheSame)
+{
+    struct StubbornEditor : NSEditor
+    {
+        bool commitEditing() override { return false; }
+    };
+    StubbornEditor editor;
+    insertCard();
+    delegate.managedObjectContext()->objectDidBeginEditing(editor);
+    const Log::Collector log;
+    EXPECT_EQ(delegate.applicationShouldTerminate(), Corvane_AppDelegate::TerminateReply::Cancel);
+    delegate.saveAction();
+    EXPECT_FALSE(delegate.managedObjectContext()->hasChanges());
+    EXPECT_EQ(log.lines(),
+              QStringList(
+                  {QStringLiteral("Corvane_AppDelegate: unable to commit editing to terminate"),
+                   QStringLiteral("Corvane_AppDelegate: unable to commit editing before saving")}));
+}
+
+TEST_F(Corvane_AppDelegateTest, reportsAFailedSaveOnceAndOnStandardErrorWhenTheSessionEnds)
+{
+    insertCard();
+    breakStore();
+    delegate.saveAction();
+    EXPECT_EQ(person.errors.size(), 1);
+    const Log::Collector log;
+    delegate.sessionWillEnd();
+    EXPECT_EQ(log.lines().size(), 1);
+    EXPECT_EQ(person.errors.size(), 1);
+    EXPECT_TRUE(delegate.managedObjectContext()->hasChanges());
+}
+
+TEST_F(Corvane_AppDelegateTest, undoFromTheWindowIsSavedAndShown)
+{
+    delegate.applicationDidFinishLaunching();
+    auto& controller = *delegate.mainWindowController();
+    insertCard();
+    auto& context = *delegate.managedObjectContext();
+    context.processPendingChanges();
+    EXPECT_TRUE(controller.window().isWindowModified());
+    EXPECT_EQ(controller.cardsController().rowCount(), 1);
+    context.save();
+    EXPECT_FALSE(controller.window().isWindowModified());
+    int announced = 0;
+    const auto observation =
+        controller.observe("formattedTotals", [&](const ObservedChange&) { ++announced; });
+    controller.window().undo();
+    EXPECT_EQ(announced, 1);
+    EXPECT_EQ(controller.cardsController().rowCount(), 0);
+    NSManagedObjectContext fresh(*delegate.persistentStoreCoordinator());
+    EXPECT_EQ(fresh.countForFetchRequest({"Card"}), 0);
+    controller.window().redo();
+    EXPECT_EQ(fresh.countForFetchRequest({"Card"}), 1);
+}
+
+TEST(StoreLock, admitsOneInstanceAndForgetsItWhenItIsGone)
+{
+    const QTemporaryDir directory;
+    {
+        const StoreLock first(directory.path());
+        EXPECT_EQ(first.state(), StoreLock::State::Held);
+        EXPECT_EQ(StoreLock(directory.path()).state(), StoreLock::State::HeldByAnother);
+    }
+    EXPECT_EQ(StoreLock(directory.path()).state(), StoreLock::State::Held);
+    EXPECT_EQ(StoreLock(directory.filePath(QStringLiteral("missing"))).state(),
+              StoreLock::State::Unavailable);
+}
+
+TEST(SupportDirectory, followsTheDataHomeUnlessItIsRelative)
+{
+    const auto with = [](const char* dataHome, const char* home) {
+        qputenv("XDG_DATA_HOME", dataHome);
+        qputenv("HOME", home);
+        return SupportDirectory::path();
+    };
+    const auto oldHome = qgetenv("HOME");
+    EXPECT_EQ(with("/data", "/home/ada"), QStringLiteral("/data/Corvane"));
+    EXPECT_EQ(with("", "/home/ada"), QStringLiteral("/home/ada/.local/share/Corvane"));
+    EXPECT_EQ(with("relative", "/home/ada"), QStringLiteral("/home/ada/.local/share/Corvane"));
+    EXPECT_EQ(with("", ""), QString(QDir::tempPath() + QStringLiteral("/Corvane")));
+    const QTemporaryDir directory;
+    with(QFile::encodeName(directory.filePath(QStringLiteral("a/b"))).constData(), "");
+    EXPECT_TRUE(SupportDirectory::makeDataHome());
+    EXPECT_TRUE(SupportDirectory::makeDataHome());
+    qunsetenv("XDG_DATA_HOME");
+    qputenv("HOME", oldHome);
+}
