@@ -4,8 +4,6 @@
 #include "model/CVCard.h"
 #include "store/NSArrayController.h"
 
-#include <QPixmap>
-
 namespace {
 
 /// How far a card's cell stays away from the ends of its row, in points.
@@ -16,7 +14,7 @@ constexpr int cellInset = 4;
 CVCardTableView::CVCardTableView(QWidget* parent)
     : RowTableView(parent)
 {
-    setBackgroundPattern(QPixmap(QStringLiteral(":/images/whitey.png")));
+    setTiledBackground(TiledBackground(QStringLiteral(":/images/whitey.png")));
 }
 
 void CVCardTableView::setCardsController(NSArrayController& cards)

@@ -79,11 +79,6 @@ std::vector<CVStatement*> CVCard::statements() const
     return result;
 }
 
-void CVCard::addStatement(CVStatement& statement)
-{
-    addRelatedObject("statements", statement);
-}
-
 std::vector<CVStatement*> CVCard::sortedStatements() const
 {
     auto result = statements();

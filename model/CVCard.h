@@ -39,7 +39,6 @@ public:
 
     /// In no particular order.
     std::vector<CVStatement*> statements() const;
-    void addStatement(CVStatement& statement);
 
     /// By date, the earliest first; statements without a date come before all others.
     std::vector<CVStatement*> sortedStatements() const;

@@ -73,7 +73,7 @@ std::int64_t numberOfPaymentsToClear(double balance, double annualRate, double p
         if (rest >= balance) {
             return CVNeverClears;
         }
-        if (count == 1 && monthlyRate > -1.0) {
+        if (count == 1) {
             const double payments = paymentsByFormula(balance, monthlyRate, payment);
             if (!(payments <= maximumSteps)) {
                 return countFromFormula(payments);

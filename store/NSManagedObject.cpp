@@ -27,10 +27,12 @@ bool isOfType(const PropertyValue& value, NSAttributeType type)
     return false;
 }
 
-bool isFinite(const PropertyValue& value)
+/// Whether the file would answer the value again: it takes no number that is not finite, and no
+/// date beyond all calendars.
+bool isStorable(const PropertyValue& value)
 {
     if (const auto* const date = std::get_if<Instant>(&value)) {
-        return std::isfinite(date->secondsSince1970());
+        return date->isSupported();
     }
     const auto* const number = std::get_if<double>(&value);
     return !number || std::isfinite(*number);
@@ -114,7 +116,7 @@ PropertyValue NSManagedObject::attribute(std::size_t index) const
 
 void NSManagedObject::setAttribute(std::size_t index, const PropertyValue& newValue)
 {
-    const auto value = isFinite(newValue) ? newValue : PropertyValue();
+    const auto value = isStorable(newValue) ? newValue : PropertyValue();
     const auto& description = entity().attributes()[index];
     if (!isOfType(value, description.attributeType)) {
         throw std::invalid_argument("the attribute " + description.name + " is of another type");

@@ -83,7 +83,8 @@ protected:
     std::optional<Value> attribute(std::size_t index) const;
     PropertyValue attribute(std::size_t index) const;
     /// Does nothing on a deleted record. A value equal to the present one is announced to observers
-    /// but is no change; a date or number that is not finite is absent, as the file would have it.
+    /// but is no change; a number that is not finite and a date that is not supported are absent,
+    /// as the file would have it.
     void setAttribute(std::size_t index, const PropertyValue& newValue);
 
 private:
@@ -144,7 +145,7 @@ private:
 template <typename Value>
 Value NSManagedObject::readBlock(std::size_t offset) const
 {
-    std::array<std::byte, sizeof(Value)> bytes;
+    std::array<std::byte, sizeof(Value)> bytes = {};
     std::memcpy(bytes.data(), m_block.get() + offset, bytes.size());
     return std::bit_cast<Value>(bytes);
 }

@@ -9,14 +9,17 @@ namespace {
 /// What stays free of the view's width, in points.
 constexpr double columnSpacing = 3.0;
 
+/// The mean of the pattern that the table stands on.
+constexpr QColor clothColor(0x3A, 0x3A, 0x3A);
+
 } // namespace
 
 CVTimelineScrollView::CVTimelineScrollView(QWidget* parent)
     : QScrollArea(parent)
 {
-    // Beside the table, which is a little narrower than the view, its background goes on.
+    // The table is a little narrower than the view: beside it the colour of its cloth goes on.
     QPalette palette = viewport()->palette();
-    palette.setBrush(QPalette::Window, CVTimelineTableView::backgroundPatternImage());
+    palette.setColor(QPalette::Window, clothColor);
     viewport()->setPalette(palette);
     viewport()->setAutoFillBackground(true);
 }
@@ -34,7 +37,7 @@ void CVTimelineScrollView::setScale(double scale)
 double CVTimelineScrollView::adjustTimelineWidth()
 {
     const double scale = m_scale == 0.0 ? 1.0 : m_scale;
-    const double timelineWidth = std::floor(scale * width()) - columnSpacing;
+    const double timelineWidth = std::floor(scale * viewport()->width()) - columnSpacing;
     if (auto* const table = timelineTableView()) {
         table->setTimelineWidth(timelineWidth);
     }

@@ -22,7 +22,7 @@ public:
     void setScale(double scale);
 
     /// Gives the table the width for the present size and scale, floor(scale × width) − 3 points,
-    /// and answers it.
+    /// and answers it. The width is what a scroll bar beside the table leaves of the view.
     double adjustTimelineWidth();
 
 protected:

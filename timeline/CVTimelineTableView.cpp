@@ -10,13 +10,8 @@ CVTimelineTableView::CVTimelineTableView(QWidget* parent)
 {
     // Time runs from left to right wherever the reader's text does not.
     setLayoutDirection(Qt::LeftToRight);
-    setBackgroundPattern(backgroundPatternImage());
+    setTiledBackground(TiledBackground(QStringLiteral(":/images/black_linen_v2.png")));
     m_cell.setBackdropOpaque(true);
-}
-
-QPixmap CVTimelineTableView::backgroundPatternImage()
-{
-    return QPixmap(QStringLiteral(":/images/black_linen_v2.png"));
 }
 
 void CVTimelineTableView::setManagedObjectContext(NSManagedObjectContext* context)

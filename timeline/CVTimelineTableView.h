@@ -4,8 +4,6 @@
 #include "timeline/CVTimelineData.h"
 #include "widgets/RowTableView.h"
 
-#include <QPixmap>
-
 #include <optional>
 
 class NSArrayController;
@@ -19,9 +17,6 @@ class CVTimelineTableView : public RowTableView
 
 public:
     explicit CVTimelineTableView(QWidget* parent = nullptr);
-
-    /// The tile that the table stands on.
-    static QPixmap backgroundPatternImage();
 
     /// Nothing is drawn without one. The context must outlive the table or be taken away again.
     void setManagedObjectContext(NSManagedObjectContext* context);

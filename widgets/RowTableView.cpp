@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <utility>
 
 RowTableView::RowTableView(QWidget* parent)
     : QWidget(parent)
@@ -94,9 +95,9 @@ std::optional<int> RowTableView::rowAtPoint(const QPointF& point) const
     return static_cast<int>(point.y()) / m_rowHeight;
 }
 
-void RowTableView::setBackgroundPattern(const QPixmap& pattern)
+void RowTableView::setTiledBackground(TiledBackground background)
 {
-    m_backgroundPattern = pattern;
+    m_background = std::move(background);
     update();
 }
 
@@ -114,10 +115,7 @@ void RowTableView::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
     const auto exposed = event->rect();
-    painter.fillRect(exposed, palette().window());
-    if (!m_backgroundPattern.isNull()) {
-        painter.drawTiledPixmap(exposed, m_backgroundPattern, exposed.topLeft());
-    }
+    m_background.draw(painter, exposed);
     const int first = std::max(0, exposed.top() / m_rowHeight);
     const int last = std::min(numberOfRows() - 1, exposed.bottom() / m_rowHeight);
     if (first > last) {

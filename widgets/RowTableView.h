@@ -1,5 +1,7 @@
 #pragma once
 
+#include "widgets/TiledBackground.h"
+
 #include <QAbstractItemModel>
 #include <QItemSelectionModel>
 #include <QPointer>
@@ -36,9 +38,8 @@ public:
     /// The row at a point in the table's coordinates; absent beside and below the rows.
     std::optional<int> rowAtPoint(const QPointF& point) const;
 
-    /// Painted behind and below the rows, as a pattern that begins in the table's upper left
-    /// corner.
-    void setBackgroundPattern(const QPixmap& pattern);
+    /// Painted behind and below the rows.
+    void setTiledBackground(TiledBackground background);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -57,6 +58,6 @@ private:
 
     QPointer<QAbstractItemModel> m_model;
     QPointer<QItemSelectionModel> m_selectionModel;
-    QPixmap m_backgroundPattern;
+    TiledBackground m_background;
     int m_rowHeight = 20;
 };

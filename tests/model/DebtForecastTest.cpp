@@ -85,15 +85,14 @@ TEST(DebtForecastTest, CountsPaymentsUntilTheBalanceIsCleared)
 
 TEST(DebtForecastTest, AnswersWhateverTheNumbersAre)
 {
-    constexpr auto numbers =
-        std::to_array<double>({0.0, 1e-320, 1e-17, 0.5, 12.0, 1e9, 1e17, 1e308, infinity,
-                               notANumber, -1e-17, -0.5, -12.0, -18.0, -1e308, -infinity});
+    const auto numbers = {0.0,      1e-320,     1e-17,  0.5,  12.0,  1e9,   1e17,   1e308,
+                          infinity, notANumber, -1e-17, -0.5, -12.0, -18.0, -1e308, -infinity};
     for (const double balance : numbers) {
         for (const double rate : numbers) {
             for (const double payment : numbers) {
                 const auto count = numberOfPaymentsToClear(balance, rate, payment);
-                ASSERT_TRUE(count >= CVNeverClears && count <= 2147483647)
-                    << balance << ' ' << rate << ' ' << payment << ' ' << count;
+                ASSERT_GE(count, CVNeverClears) << balance << ' ' << rate << ' ' << payment;
+                ASSERT_LE(count, 2147483647) << balance << ' ' << rate << ' ' << payment;
             }
         }
     }
@@ -103,14 +102,14 @@ TEST(DebtForecastTest, AgreesWithOtherWaysToCount)
 {
     const auto seed = std::random_device{}();
     std::mt19937 random(seed);
-    const auto cents = [&random](int most) {
-        return std::uniform_int_distribution(1, most)(random) / 100.0;
+    const auto below = [&random](double most) {
+        return std::uniform_real_distribution(0.01, most)(random);
     };
     for (int i = 0; i < 10'000; ++i) {
-        const double balance = cents(2'000'000);
-        const double rate = std::uniform_int_distribution(1, 600)(random) / 1000.0;
+        const double balance = below(20'000);
+        const double rate = below(0.6);
         const double interest = balance * rate / 12.0;
-        const double payment = interest * 1.001 + cents(50'000);
+        const double payment = interest * 1.001 + below(500);
         SCOPED_TRACE(testing::Message()
                      << "seed " << seed << ": " << balance << " at " << rate << " by " << payment);
         const auto count = numberOfPaymentsToClear(balance, rate, payment);
@@ -126,41 +125,27 @@ TEST(DebtForecastTest, AgreesWithOtherWaysToCount)
     }
 }
 
-TEST(DebtForecastTest, WritesTheCountAndTheMonthOfTheLastPayment)
+TEST(DebtForecastTest, SaysWhenACardIsClearedAndWhenTheLastOfThemIs)
 {
     const ScopedRegionalSettings regional({"en_GB", "en_GB", "Europe/London"});
     CardStore store;
-    const auto textWith = [&](std::optional<Instant> date, const StatementFigures& figures) {
+    store.insertCard(u"Without statements"_qs);
+    // Each card joins those before it.
+    const auto expectWith = [&](std::optional<Instant> date, const StatementFigures& figures,
+                                const char* forecast, const char* overall) {
         auto& card = store.insertCard(u"Card"_qs);
         store.insertStatement(&card, date, figures);
-        return card.formattedForecast();
+        EXPECT_EQ(card.formattedForecast().toStdString(), forecast);
+        EXPECT_EQ(DebtForecast::formattedDebtFreeDate(store.context()).toStdString(), overall);
     };
-    EXPECT_EQ(textWith(utc(2013, 3, 15), {"1000", "0", "300", 0.12}), u"4 m ⟶ 15/07/2013"_qs);
-    EXPECT_EQ(textWith(utc(2013, 1, 31, 10), {"9", "0", "9"}), u"1 m ⟶ 28/02/2013"_qs);
-    EXPECT_EQ(textWith(utc(2013, 3, 15), {"0", "0", "9"}), QString());
-    EXPECT_EQ(textWith(std::nullopt, {"9", "0", "9"}), QString());
-    EXPECT_EQ(textWith(utc(2013, 3, 15), {"1000", "0", "10", 0.12}), u"never"_qs);
-    EXPECT_EQ(textWith(utc(2013, 3, 15), {"20000000", "0", "1"}), u"never"_qs)
-        << "beyond all calendars";
-}
-
-TEST(DebtForecastTest, IsFreeOfDebtWhenTheLastCardIs)
-{
-    const ScopedRegionalSettings regional({"en_GB", "en_GB", "UTC"});
-    CardStore store;
-    const auto textWith = [&](std::optional<Instant> date, const StatementFigures& figures) {
-        store.insertStatement(&store.insertCard(u"Card"_qs), date, figures);
-        return DebtForecast::formattedDebtFreeDate(store.context());
-    };
-    EXPECT_EQ(DebtForecast::formattedDebtFreeDate(store.context()), QString());
-    store.insertCard(u"New"_qs);
-    EXPECT_EQ(textWith(std::nullopt, {"1", "1", "1"}), QString());
-    EXPECT_EQ(textWith(utc(2013, 3, 15), {"1000", "0", "300", 0.12}), u"Debt-free 15/07/2013"_qs);
-    EXPECT_EQ(textWith(utc(2013, 6, 15), {"1", "1", "1"}), u"Debt-free 15/07/2013"_qs);
-    EXPECT_EQ(textWith(utc(2013, 4, 15), {"1", "1", "1"}), u"Debt-free 15/07/2013"_qs);
-    EXPECT_EQ(textWith(utc(2013, 8, 1), {"0", "100", "10"}), u"Debt-free 01/08/2013"_qs);
-    store.save();
-    store.reopen();
-    EXPECT_EQ(DebtForecast::formattedDebtFreeDate(store.context()), u"Debt-free 01/08/2013"_qs);
-    EXPECT_EQ(textWith(utc(2013, 3, 15), {"1000", "0", "10", 0.12}), u"Debt-free never"_qs);
+    const StatementFigures payable{"9", "9", "9"};
+    expectWith(std::nullopt, payable, "", "");
+    expectWith(utc(2013, 1, 31), payable, "1 m ⟶ 28/02/2013", "Debt-free 28/02/2013");
+    expectWith(utc(2013, 3, 15), {"1000", "0", "300", 0.12}, "4 m ⟶ 15/07/2013",
+               "Debt-free 15/07/2013");
+    expectWith(utc(2013, 6, 15), payable, "1 m ⟶ 15/07/2013", "Debt-free 15/07/2013");
+    expectWith(utc(2013, 4, 15), payable, "1 m ⟶ 15/05/2013", "Debt-free 15/07/2013");
+    expectWith(utc(2013, 8, 1), {"0", "9", "9"}, "", "Debt-free 01/08/2013");
+    expectWith(utc(2013, 3, 15), {"20000000", "0", "1"}, "never", "Debt-free never");
+    expectWith(utc(2013, 3, 15), {"1000", "0", "10", 0.12}, "never", "Debt-free never");
 }
