@@ -15,6 +15,7 @@
 #include <QFileInfo>
 
 #include <cerrno>
+#include <exception>
 #include <sys/stat.h>
 #include <utility>
 
@@ -165,12 +166,13 @@ void Corvane_AppDelegate::sessionWillEnd()
     if (!m_managedObjectContext) {
         return;
     }
-    if (!m_managedObjectContext->commitEditing()) {
-        Log::line(QString(className + u": unable to commit editing to terminate"));
-    }
     try {
+        if (!m_managedObjectContext->commitEditing()) {
+            Log::line(QString(className + u": unable to commit editing to terminate"));
+        }
         m_managedObjectContext->save();
-    } catch (const NSError& error) {
-        Log::line(QString(u"Unable to save changes while quitting: " + error.description()));
+    } catch (const std::exception& exception) {
+        Log::line(QString(u"Unable to save changes while quitting: " +
+                          QString::fromUtf8(exception.what())));
     }
 }

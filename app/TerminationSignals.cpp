@@ -3,6 +3,7 @@
 #include <QSocketNotifier>
 
 #include <array>
+#include <cerrno>
 #include <csignal>
 #include <fcntl.h>
 #include <unistd.h>
@@ -16,17 +17,33 @@ volatile std::sig_atomic_t writer = -1;
 
 void handleSignal(int /*number*/)
 {
+    const int interruptedError = errno;
     const char byte = 0;
     static_cast<void>(::write(writer, &byte, 1));
+    errno = interruptedError;
 }
 
-void setHandler(void (*handler)(int))
+/// What the signals did before.
+std::array<struct sigaction, terminationSignals.size()> oldActions;
+
+void takeSignals()
 {
     struct sigaction action = {};
-    action.sa_handler = handler;
+    action.sa_handler = handleSignal;
     action.sa_flags = SA_RESTART;
-    for (const auto number : terminationSignals) {
-        ::sigaction(number, &action, nullptr);
+    for (std::size_t i = 0; i < terminationSignals.size(); ++i) {
+        ::sigaction(terminationSignals[i], nullptr, &oldActions[i]);
+        // Whoever started the program may have it ignore one, as nohup does.
+        if (oldActions[i].sa_handler != SIG_IGN) {
+            ::sigaction(terminationSignals[i], &action, nullptr);
+        }
+    }
+}
+
+void giveSignalsBack()
+{
+    for (std::size_t i = 0; i < terminationSignals.size(); ++i) {
+        ::sigaction(terminationSignals[i], &oldActions[i], nullptr);
     }
 }
 
@@ -47,13 +64,13 @@ TerminationSignals::TerminationSignals()
         }
         Q_EMIT received();
     });
-    setHandler(handleSignal);
+    takeSignals();
 }
 
 TerminationSignals::~TerminationSignals()
 {
     if (m_reader >= 0) {
-        setHandler(SIG_DFL);
+        giveSignalsBack();
         ::close(writer);
         ::close(m_reader);
     }

@@ -15,6 +15,7 @@
 #include "mainwindow/MainWindowController.h"
 #include "store/NSError.h"
 
+#include <QFileInfo>
 #include <QScopeGuard>
 #include <QTemporaryDir>
 
@@ -35,13 +36,20 @@ void nameApplication()
     QGuiApplication::setDesktopFileName(QStringLiteral("org.corvane.Corvane"));
 }
 
-/// Makes the person's directory and locks the store in it. Absent when another instance has it.
+/// Makes the person's directory and locks the store in it.
 std::unique_ptr<StoreLock> lockStore(const Corvane_AppDelegate& delegate)
 {
     SupportDirectory::makeDataHome();
     delegate.makeApplicationSupportDirectory();
-    auto lock = std::make_unique<StoreLock>(delegate.applicationSupportDirectory());
-    return lock->state() == StoreLock::State::HeldByAnother ? nullptr : std::move(lock);
+    return std::make_unique<StoreLock>(delegate.applicationSupportDirectory());
+}
+
+/// Whether a store could be written in the directory, so that a lock that cannot be had there is
+/// no side effect of a greater trouble that opening the store will tell.
+bool isWritableDirectory(const QString& path)
+{
+    const QFileInfo info(path);
+    return info.isDir() && info.isWritable();
 }
 
 int runApplication(CVApplication& application, const CommandLine& commandLine)
@@ -63,9 +71,14 @@ int runApplication(CVApplication& application, const CommandLine& commandLine)
     std::unique_ptr<StoreLock> lock;
     if (!commandLine.isDemo && !isSnapshot) {
         lock = lockStore(delegate);
-        if (!lock) {
+        if (lock->state() == StoreLock::State::HeldByAnother) {
             Log::line(u"Corvane is running already: its data are in use.");
-            return 0;
+            return EXIT_SUCCESS;
+        }
+        if (lock->state() == StoreLock::State::Unavailable &&
+            isWritableDirectory(delegate.applicationSupportDirectory())) {
+            Log::line(u"Unable to lock the store: storedata.lock cannot be used.");
+            return EXIT_FAILURE;
         }
     }
     if (commandLine.isDemo) {
@@ -101,6 +114,9 @@ int runApplication(CVApplication& application, const CommandLine& commandLine)
         delegate.sessionWillEnd();
         QCoreApplication::exit(0);
     });
+    QObject::connect(
+        &application, &QGuiApplication::commitDataRequest, &delegate,
+        [&delegate] { delegate.sessionWillEnd(); }, Qt::DirectConnection);
     return QCoreApplication::exec();
 }
 

@@ -1,6 +1,11 @@
 #include "foundation/KeyValueObserving.h"
 
+#include "foundation/Log.h"
+
+#include <QString>
+
 #include <algorithm>
+#include <exception>
 #include <utility>
 
 /// One step of an observed path: watches the first key on one object, and with a watcher of its
@@ -50,10 +55,16 @@ public:
 
     void didChange()
     {
-        watchRest();
-        // The callback may end this very observation: it is called as a copy, last.
-        const auto callback = m_didChange;
-        callback();
+        try {
+            watchRest();
+            // The callback may end this very observation: it is called as a copy, last.
+            const auto callback = m_didChange;
+            callback();
+        } catch (const std::exception& exception) {
+            // The change stands, whatever its observer makes of it.
+            Log::line(
+                QString(u"Unable to observe a change: " + QString::fromUtf8(exception.what())));
+        }
     }
 
 private:

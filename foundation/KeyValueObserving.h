@@ -76,6 +76,7 @@ private:
 /// didChangeValueForKey() (best through a KeyValueChange), declares which of its keys derive from
 /// which key paths, and answers the objects that paths run through. Handlers are called
 /// synchronously, from didChangeValueForKey(); they may end any observation, but not the object.
+/// What a handler throws is logged.
 class KeyValueObservable
 {
 public:

@@ -3,6 +3,8 @@
 #include "mainwindow/CVCardTableRowView.h"
 #include "model/CVCard.h"
 #include "store/NSArrayController.h"
+#include "store/NSManagedObjectContext.h"
+#include "store/NSPersistentStoreCoordinator.h"
 
 namespace {
 
@@ -22,6 +24,18 @@ void CVCardTableView::setCardsController(NSArrayController& cards)
     m_cards = &cards;
     setModel(&cards);
     setSelectionModel(&cards.selectionModel());
+}
+
+void CVCardTableView::beginRows()
+{
+    if (auto* const context = m_cards ? m_cards->managedObjectContext() : nullptr) {
+        m_reading.emplace(context->persistentStoreCoordinator().store());
+    }
+}
+
+void CVCardTableView::endRows()
+{
+    m_reading.reset();
 }
 
 void CVCardTableView::paintRow(QPainter& painter, int row, const QRect& rect,

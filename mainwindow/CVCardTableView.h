@@ -1,7 +1,10 @@
 #pragma once
 
 #include "mainwindow/CVCardInfoCell.h"
+#include "store/ReadTransaction.h"
 #include "widgets/RowTableView.h"
+
+#include <optional>
 
 class NSArrayController;
 
@@ -17,9 +20,13 @@ public:
     void setCardsController(NSArrayController& cards);
 
 protected:
+    void beginRows() override;
+    void endRows() override;
     void paintRow(QPainter& painter, int row, const QRect& rect, const QRect& exposed) override;
 
 private:
     NSArrayController* m_cards = nullptr;
     CVCardInfoCell m_cell;
+    /// While a paint event lasts: the rows' one look at the file.
+    std::optional<ReadTransaction> m_reading;
 };

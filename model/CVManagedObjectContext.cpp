@@ -7,7 +7,7 @@
 #include "model/Calculations.h"
 #include "store/NSError.h"
 #include "store/NSManagedObjectContext.h"
-#include "store/SQLiteStore.h"
+#include "store/ReadTransaction.h"
 
 #include <QString>
 

@@ -30,6 +30,7 @@ public:
     /// Shows the records of `context`, none without one. The context must outlive the controller or
     /// be taken away again. Throws NSError when the records cannot be read; the list is empty then.
     void setManagedObjectContext(NSManagedObjectContext* context);
+    NSManagedObjectContext* managedObjectContext() const { return m_context; }
 
     const std::vector<NSManagedObject*>& arrangedObjects() const { return m_arranged; }
     /// The position of a record; absent when it is not in the list.

@@ -52,7 +52,7 @@ NSManagedObjectContext& NSManagedObject::managedObjectContext() const
 
 std::optional<std::int64_t> NSManagedObject::recordID() const
 {
-    return m_id == 0 ? std::nullopt : std::optional(m_id);
+    return hasState(HasID) ? std::optional(m_id) : std::nullopt;
 }
 
 PropertyValue NSManagedObject::valueForKey(std::string_view key) const

@@ -102,6 +102,8 @@ private:
         Observed = 8,
         /// The context counts the record among those that a save must look at.
         Touched = 16,
+        /// The record has a key: it was saved once.
+        HasID = 32,
     };
 
     bool hasState(State state) const { return (m_state & state) != 0; }

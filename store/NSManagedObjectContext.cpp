@@ -1,8 +1,10 @@
 #include "store/NSManagedObjectContext.h"
 
+#include "foundation/Log.h"
 #include "store/NSError.h"
 #include "store/NSManagedObject.h"
 #include "store/NSPersistentStoreCoordinator.h"
+#include "store/ReadTransaction.h"
 #include "store/RecordTable.h"
 #include "store/SQLiteStore.h"
 
@@ -10,6 +12,7 @@
 #include <QScopeGuard>
 
 #include <algorithm>
+#include <exception>
 #include <optional>
 #include <stdexcept>
 #include <utility>
@@ -74,24 +77,35 @@ void NSManagedObjectContext::deleteObject(NSManagedObject& record)
 
 void NSManagedObjectContext::processPendingChanges()
 {
-    if (m_log.empty()) {
-        return;
+    // Who hears of changes may make more; they belong to the same step. Those who answer each
+    // change with another have to wait for the next event.
+    constexpr int maximumRounds = 8;
+    for (int round = 0; round < maximumRounds && !m_log.empty(); ++round) {
+        processLog(std::exchange(m_log, {}));
     }
-    const auto changes = netChanges(m_log);
+}
+
+void NSManagedObjectContext::processLog(ChangeLog log)
+{
+    const auto changes = netChanges(log);
     if (changes.isEmpty()) {
         // Records that came and went: nobody saw them, and there is nothing to take back.
-        m_log.clear();
         return;
     }
-    auto takeBackLog = [this, log = std::exchange(m_log, {})] {
-        takeBack(log);
+    auto takeBackLog = [this, steps = std::move(log)] {
+        takeBack(steps);
     };
     if (m_isValidating) {
         m_undoManager.registerCorrection(std::move(takeBackLog));
     } else {
         m_undoManager.registerUndo(std::move(takeBackLog));
     }
-    Q_EMIT objectsDidChange(changes);
+    try {
+        Q_EMIT objectsDidChange(changes);
+    } catch (const std::exception& exception) {
+        // The changes stand, whatever those who show them make of them.
+        Log::line(QString(u"Unable to follow changes: " + QString::fromUtf8(exception.what())));
+    }
 }
 
 template <typename Predicate>

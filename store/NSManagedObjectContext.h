@@ -139,6 +139,7 @@ private:
     void touch(NSManagedObject& record);
     void logStep(ChangeLog::value_type step);
     void setDeleted(NSManagedObject& record, bool isDeleted);
+    void processLog(ChangeLog log);
     void takeBack(const ChangeLog& log);
     bool validateUpdatedObjects();
     template <typename Predicate>

@@ -56,13 +56,16 @@ void NSUndoManager::endUndoGrouping()
         throw std::logic_error("no undo group is open");
     }
     checkpoint();
-    --m_level;
+    if (--m_level == 1) {
+        // The event in which the group was opened may be over: a modal alert lets others pass.
+        closeAtEventEnd();
+    }
 }
 
 void NSUndoManager::closeEventGroup()
 {
     checkpoint();
-    if (m_level > 1) {
+    if (m_level > 1 || m_activity != Activity::Doing) {
         return;
     }
     m_level = 0;
@@ -136,6 +139,11 @@ void NSUndoManager::checkpoint() const
 void NSUndoManager::openEventGroup()
 {
     m_level = 1;
+    closeAtEventEnd();
+}
+
+void NSUndoManager::closeAtEventEnd()
+{
     QMetaObject::invokeMethod(
         &m_eventEnd, [this] { closeEventGroup(); }, Qt::QueuedConnection);
 }
@@ -156,11 +164,22 @@ void NSUndoManager::runLatest(std::vector<Step>& from, std::vector<Step>& to, Ac
         m_activity = Activity::Doing;
         m_openStep = {};
     });
-    for (auto operation = step.operations.rbegin(); operation != step.operations.rend();
-         ++operation) {
-        (*operation)();
+    const auto run = [](const std::vector<Operation>& operations) {
+        for (auto operation = operations.rbegin(); operation != operations.rend(); ++operation) {
+            (*operation)();
+        }
+    };
+    try {
+        run(step.operations);
+        checkpoint();
+    } catch (...) {
+        // Half a step is worse than none: what was done of it is taken back.
+        checkpoint();
+        run(std::exchange(m_openStep.operations, {}));
+        checkpoint();
+        from.push_back(step);
+        throw;
     }
-    checkpoint();
     if (!m_openStep.operations.empty()) {
         m_openStep.name = step.name;
         to.push_back(std::move(m_openStep));

@@ -36,7 +36,8 @@ public:
     void beginUndoGrouping();
     /// Throws std::logic_error without a beginUndoGrouping() of its own.
     void endUndoGrouping();
-    /// Ends the event's group now. While an explicit group is open, does nothing.
+    /// Ends the event's group now. While an explicit group is open, or a step is being taken back
+    /// or done again, does nothing.
     void closeEventGroup();
 
     /// Names the step that the current event is making. Without one, nothing happens.
@@ -74,6 +75,7 @@ private:
 
     void checkpoint() const;
     void openEventGroup();
+    void closeAtEventEnd();
     void runLatest(std::vector<Step>& from, std::vector<Step>& to, Activity activity);
 
     std::function<void()> m_checkpointHandler;

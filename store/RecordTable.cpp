@@ -47,7 +47,11 @@ void RecordTable::realize(const NSManagedObject& record)
 
 void RecordTable::setRecordID(NSManagedObject& record, std::int64_t id)
 {
+    if (record.hasState(NSManagedObject::HasID)) {
+        m_recordsByID.remove(record.m_id);
+    }
     record.m_id = id;
+    record.setState(NSManagedObject::HasID, true);
     m_recordsByID.insert(id, &record);
 }
 

@@ -228,7 +228,7 @@ void SQLiteStore::execute(const std::string& sql)
 SQLiteStore::SQLiteStore(const NSManagedObjectModel& model, const QString& path)
     : m_fileName(QFileInfo(path).fileName())
 {
-    const auto content = StoreFile::prepare(path);
+    const auto content = StoreFile::prepare(path, StoreSchema::formatVersion(model));
     guarded([&] {
         m_database = std::make_unique<SQLite::Database>(path.toStdString(), SQLite::OPEN_READWRITE,
                                                         busyTimeoutMilliseconds);
@@ -412,9 +412,12 @@ std::vector<std::int64_t> SQLiteStore::save(const StoreChanges& changes)
         std::vector<std::int64_t> ids;
         NewIDs newIDs;
         for (const auto* const record : changes.inserted) {
-            ids.push_back(record->recordID().value_or(0));
-            if (ids.back() == 0) {
-                ids.back() = nextID(record->entity());
+            // A record that comes back has its own key, unless another program took it meanwhile.
+            const auto ownID = record->recordID();
+            if (ownID && !hasRow(record->entity(), *ownID)) {
+                ids.push_back(*ownID);
+            } else {
+                ids.push_back(nextID(record->entity()));
                 newIDs.emplace(record, ids.back());
             }
         }
@@ -437,8 +440,11 @@ std::int64_t SQLiteStore::nextID(const NSEntityDescription& entity)
     auto query = statement("SELECT max(id) FROM " + StoreSchema::quoted(entity.name()));
     query->executeStep();
     auto& lastID = m_lastIDs[&entity];
-    lastID = std::max(lastID, query->getColumn(0).getInt64()) + 1;
-    return lastID;
+    lastID = std::max(lastID, query->getColumn(0).getInt64());
+    if (lastID == std::numeric_limits<std::int64_t>::max()) {
+        throw storeError(m_fileName, SQLITE_FULL);
+    }
+    return ++lastID;
 }
 
 void SQLiteStore::insertRow(const NSManagedObject& record, std::int64_t id, const NewIDs& newIDs)
@@ -501,6 +507,8 @@ void SQLiteStore::deleteRow(const NSManagedObject& record)
         statement("DELETE FROM " + StoreSchema::quoted(record.entity().name()) + " WHERE id = ?");
     deletion->bind(1, *record.recordID());
     deletion->exec();
+    auto& lastID = m_lastIDs[&record.entity()];
+    lastID = std::max(lastID, *record.recordID());
 }
 
 void SQLiteStore::bindTarget(SQLite::Statement& statement, int parameter,
@@ -517,7 +525,15 @@ void SQLiteStore::bindTarget(SQLite::Statement& statement, int parameter,
 void SQLiteStore::beginRead()
 {
     if (m_readDepth == 0) {
-        guarded([this] { statement("BEGIN")->exec(); });
+        guarded([this] {
+            m_database->exec("BEGIN");
+            // The first look takes the lock: whoever waits for it waits once, here.
+            if (m_database->tryExec("SELECT count(*) FROM sqlite_schema") != SQLITE_OK) {
+                const int code = m_database->getExtendedErrorCode();
+                m_database->tryExec("ROLLBACK");
+                throw storeError(m_fileName, code);
+            }
+        });
     }
     ++m_readDepth;
 }

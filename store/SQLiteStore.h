@@ -121,20 +121,3 @@ private:
     std::unordered_map<const NSEntityDescription*, std::int64_t> m_lastIDs;
     int m_readDepth = 0;
 };
-
-/// Reads between its making and its end see one state of the file. They nest.
-class [[nodiscard]] ReadTransaction
-{
-public:
-    explicit ReadTransaction(SQLiteStore& store)
-        : m_store(store)
-    {
-        m_store.beginRead();
-    }
-    ReadTransaction(const ReadTransaction&) = delete;
-    ReadTransaction& operator=(const ReadTransaction&) = delete;
-    ~ReadTransaction() { m_store.endRead(); }
-
-private:
-    SQLiteStore& m_store;
-};

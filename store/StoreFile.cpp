@@ -20,6 +20,8 @@ namespace {
 
 // The places in the header of an SQLite file, in bytes.
 constexpr qint64 headerSize = 100;
+constexpr qsizetype journalVersionOffset = 18;
+constexpr char rollbackJournal = 1;
 constexpr qsizetype userVersionOffset = 60;
 constexpr qsizetype applicationIDOffset = 68;
 
@@ -60,7 +62,7 @@ quint32 bigEndian(const QByteArray& header, qsizetype offset)
 
 } // namespace
 
-Content prepare(const QString& path)
+Content prepare(const QString& path, std::uint32_t formatVersion)
 {
     const QFileInfo info(path);
     if (!info.exists() && !info.isSymLink()) {
@@ -81,6 +83,7 @@ Content prepare(const QString& path)
              QCoreApplication::translate("NSError", "It is write-protected."));
     }
     if (file.size() == 0) {
+        file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
         return Content::Empty;
     }
     const auto header = file.read(headerSize);
@@ -89,7 +92,8 @@ Content prepare(const QString& path)
     if (!isStore) {
         fail(path, QT_TRANSLATE_NOOP("NSError", "The file “%1” is not a Corvane data file."), {});
     }
-    if (bigEndian(header, userVersionOffset) != StoreSchema::formatVersion) {
+    if (bigEndian(header, userVersionOffset) != formatVersion ||
+        header.at(journalVersionOffset) != rollbackJournal) {
         fail(path, QT_TRANSLATE_NOOP("NSError", "The data file “%1” was made by another version."),
              {});
     }

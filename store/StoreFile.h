@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <cstdint>
+
 /// What must be known of a store file before SQLite may open it.
 namespace StoreFile {
 
@@ -17,7 +19,8 @@ enum class Content
 ///
 /// SQLite alone would not do: it makes files that others may read, and on opening a file that has
 /// a left-over journal beside it, it changes that file before anyone can ask whose it is. Throws
-/// NSError when the file cannot be made, read and written, or is not this program's.
-Content prepare(const QString& path);
+/// NSError when the file cannot be made, read and written, is not this program's, or says that it
+/// is of another version than `formatVersion`.
+Content prepare(const QString& path, std::uint32_t formatVersion);
 
 } // namespace StoreFile

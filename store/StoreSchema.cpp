@@ -1,5 +1,8 @@
 #include "store/StoreSchema.h"
 
+#include <QCryptographicHash>
+#include <QtEndian>
+
 #include <algorithm>
 #include <cctype>
 
@@ -62,6 +65,19 @@ std::string indexStatement(const NSEntityDescription& entity, const NSIndexDescr
 
 } // namespace
 
+std::uint32_t formatVersion(const NSManagedObjectModel& model)
+{
+    // Plain numbers stand for themselves, merged versions ("3+5") for a digest of their name.
+    bool isNumber = false;
+    const auto number = model.versionIdentifier().toUInt(&isNumber);
+    if (isNumber) {
+        return number;
+    }
+    const auto digest =
+        QCryptographicHash::hash(model.versionIdentifier().toUtf8(), QCryptographicHash::Sha256);
+    return qFromBigEndian<std::uint32_t>(digest.constData());
+}
+
 std::string quoted(const std::string& name)
 {
     return '"' + name + '"';
@@ -71,7 +87,7 @@ std::vector<std::string> creationStatements(const NSManagedObjectModel& model)
 {
     std::vector<std::string> statements = {
         "PRAGMA application_id = " + std::to_string(applicationID),
-        "PRAGMA user_version = " + std::to_string(formatVersion),
+        "PRAGMA user_version = " + std::to_string(formatVersion(model)),
     };
     for (const auto& entity : model.entities()) {
         statements.push_back(tableStatement(*entity));

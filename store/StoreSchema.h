@@ -12,8 +12,8 @@ namespace StoreSchema {
 
 /// Marks a file as this program's ("Corv"), where SQLite keeps room for such a mark.
 constexpr std::uint32_t applicationID = 0x436F7276;
-/// The form of the file itself, apart from the model.
-constexpr std::uint32_t formatVersion = 1;
+/// The number by which a file says, in its header, which version of the model it was made for.
+std::uint32_t formatVersion(const NSManagedObjectModel& model);
 
 /// The name as an SQL identifier.
 std::string quoted(const std::string& name);

@@ -2,6 +2,8 @@
 
 #include "model/CVCard.h"
 #include "store/NSArrayController.h"
+#include "store/NSManagedObjectContext.h"
+#include "store/NSPersistentStoreCoordinator.h"
 
 #include <algorithm>
 
@@ -41,6 +43,7 @@ void CVTimelineTableView::setTimelineWidth(double width)
 void CVTimelineTableView::beginRows()
 {
     if (m_context) {
+        m_reading.emplace(m_context->persistentStoreCoordinator().store());
         m_axis.emplace().calculateTimelineWithContext(*m_context, rectOfRow(0));
     }
 }
@@ -48,6 +51,7 @@ void CVTimelineTableView::beginRows()
 void CVTimelineTableView::endRows()
 {
     m_axis.reset();
+    m_reading.reset();
 }
 
 void CVTimelineTableView::paintRow(QPainter& painter, int row, const QRect& rect,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "store/ReadTransaction.h"
 #include "timeline/CVCardTimelineCell.h"
 #include "timeline/CVTimelineData.h"
 #include "widgets/RowTableView.h"
@@ -42,4 +43,6 @@ private:
     CVCardTimelineCell m_cell;
     /// While a paint event lasts: the axis of all rows.
     std::optional<CVTimelineData> m_axis;
+    /// And their one look at the file.
+    std::optional<ReadTransaction> m_reading;
 };

@@ -121,8 +121,13 @@ void RowTableView::paintEvent(QPaintEvent* event)
     if (first > last) {
         return;
     }
-    beginRows();
     const auto done = qScopeGuard([this] { endRows(); });
+    try {
+        beginRows();
+    } catch (const std::exception& exception) {
+        Log::line(QString(u"Unable to draw the rows: " + QString::fromUtf8(exception.what())));
+        return;
+    }
     for (int row = first; row <= last; ++row) {
         const auto rect = rectOfRow(row);
         try {

@@ -45,7 +45,8 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
-    /// Before the rows of a paint event are painted, and after: a place for what they share.
+    /// Before the rows of a paint event are painted, and after: a place for what they share. When
+    /// the first throws, that is logged and no row is painted.
     virtual void beginRows() {}
     virtual void endRows() {}
     /// Paints what `exposed` shows of a row. Both rectangles are in the table's coordinates.

@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 namespace {
 
 /// A number whose changes register their inverse.
@@ -128,4 +130,36 @@ TEST_F(NSUndoManagerTest, groupsMustMatch)
     EXPECT_THROW(undoManager.undo(), std::logic_error);
     undoManager.endUndoGrouping();
     EXPECT_NO_THROW(undoManager.undo());
+}
+
+TEST_F(NSUndoManagerTest, aGroupThatOutlivesItsEventDoesNotSwallowTheNextOne)
+{
+    undoManager.beginUndoGrouping();
+    counter.set(1);
+    endEvent();
+    undoManager.endUndoGrouping();
+    endEvent();
+    counter.set(2);
+    endEvent();
+    undoManager.undo();
+    EXPECT_EQ(counter.value(), 1);
+}
+
+TEST_F(NSUndoManagerTest, anUndoThatFailsLeavesItsStepAsItWas)
+{
+    bool fails = true;
+    undoManager.registerUndo([&fails] {
+        if (fails) {
+            throw std::runtime_error("broken");
+        }
+    });
+    counter.set(1);
+    endEvent();
+    EXPECT_THROW(undoManager.undo(), std::runtime_error);
+    EXPECT_EQ(counter.value(), 1);
+    EXPECT_FALSE(undoManager.canRedo());
+    fails = false;
+    undoManager.undo();
+    EXPECT_EQ(counter.value(), 0);
+    EXPECT_FALSE(undoManager.canUndo());
 }

@@ -89,6 +89,12 @@ const Refusal refusals[] = {
              .exec("UPDATE Metadata SET value = '2'");
      },
      "was made by another version"},
+    {"aWriteAheadLog",
+     [](const QString& path) {
+         SQLite::Database(path.toStdString(), SQLite::OPEN_READWRITE)
+             .exec("PRAGMA journal_mode = WAL");
+     },
+     "was made by another version"},
     {"aMissingColumn",
      [](const QString& path) {
          SQLite::Database(path.toStdString(), SQLite::OPEN_READWRITE)
@@ -173,6 +179,26 @@ TEST(StoreFile, isRefusedWhileAnotherProgramWritesIt)
     EXPECT_NO_THROW(store.reopen());
 }
 
+TEST(StoreFile, anyKeyThatAFileMayHoldCanBeChangedAndDeleted)
+{
+    LibraryStore store;
+    store.open();
+    otherProgram(store).exec("INSERT INTO Book (id, title) VALUES (0, 'none'), (-7, 'minus'),"
+                             " (9223372036854775807, 'last')");
+    auto& context = store.context();
+    for (auto* const book : context.executeFetchRequest({"Book"})) {
+        book->setValueForKey(QString(textOf(*book, "title") + u'!'), "title");
+    }
+    context.save();
+    context.deleteObject(*context.objectWithID("Book", 0));
+    context.save();
+    EXPECT_EQ(otherProgram(store).execAndGet("SELECT group_concat(title) FROM Book").getString(),
+              "minus!,last!");
+    store.insertBook(nullptr, QStringLiteral("one too many"));
+    EXPECT_THROW(context.save(), NSError);
+    EXPECT_EQ(context.insertedObjects().size(), 1);
+}
+
 TEST(StoreFile, valuesOfTheWrongTypeReadAsAbsentAndAreNotLostByAnEdit)
 {
     LibraryStore store;
@@ -205,6 +231,8 @@ TEST(StoreFile, valuesOfTheWrongTypeReadAsAbsentAndAreNotLostByAnEdit)
               PropertyValue(Instant(0)));
 
     books[0]->setValueForKey(QStringLiteral("Emma"), "title");
+    books[3]->setValueForKey(Instant(1e12), "published");
+    EXPECT_EQ(books[3]->valueForKey("published"), PropertyValue()) << "as it would be read again";
     store.context().save();
     EXPECT_EQ(otherProgram(store)
                   .execAndGet("SELECT price || published || library FROM Book WHERE id = 1")

@@ -193,6 +193,43 @@ TEST_F(UndoAndSaveTest, changesMadeWithRegistrationOffLeaveNoStep)
     EXPECT_EQ(textOf(book, "title"), QStringLiteral("Emma"));
 }
 
+TEST_F(UndoAndSaveTest, thoseWhoFollowChangesMaySaveAndChangeMoreDuringAnUndo)
+{
+    auto& book = store.insertBook(nullptr, QStringLiteral("Emma"));
+    endStep();
+    book.setValueForKey(QStringLiteral("Persuasion"), "title");
+    endStep();
+    int changes = 0;
+    QObject::connect(&context(), &NSManagedObjectContext::objectsDidChange, [&] {
+        if (++changes == 1) {
+            book.setValueForKey(2.0, "weight");
+            context().save();
+        }
+    });
+    undo();
+    EXPECT_EQ(textOf(book, "title"), QStringLiteral("Emma"));
+    EXPECT_EQ(book.valueForKey("weight"), PropertyValue(2.0));
+    ASSERT_TRUE(undoManager().canRedo());
+    redo();
+    EXPECT_EQ(textOf(book, "title"), QStringLiteral("Persuasion"));
+    EXPECT_EQ(book.valueForKey("weight"), PropertyValue());
+}
+
+TEST_F(UndoAndSaveTest, aRecordComesBackUnderAnotherKeyWhenItsOwnWasTaken)
+{
+    auto& book = store.insertBook(nullptr, QStringLiteral("Emma"));
+    endStep();
+    context().deleteObject(book);
+    endStep();
+    SQLite::Database(store.path().toStdString(), SQLite::OPEN_READWRITE)
+        .exec("INSERT INTO Book (id, title) VALUES (1, 'taken')");
+    undo();
+    EXPECT_FALSE(context().hasChanges());
+    EXPECT_EQ(book.recordID(), 2);
+    NSManagedObjectContext fresh(store.coordinator());
+    EXPECT_EQ(fresh.countForFetchRequest({"Book"}), 2);
+}
+
 TEST_F(UndoAndSaveTest, anyWalkOfChangesIsUndoneAndRedoneExactlyInMemoryAndInTheFile)
 {
     const auto seed = std::random_device{}();
