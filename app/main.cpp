@@ -39,7 +39,6 @@ void nameApplication()
 /// Makes the person's directory and locks the store in it.
 std::unique_ptr<StoreLock> lockStore(const Corvane_AppDelegate& delegate)
 {
-    SupportDirectory::makeDataHome();
     delegate.makeApplicationSupportDirectory();
     return std::make_unique<StoreLock>(delegate.applicationSupportDirectory());
 }
@@ -68,6 +67,9 @@ int runApplication(CVApplication& application, const CommandLine& commandLine)
     application.setDelegate(&delegate);
     const auto done = qScopeGuard([&application] { application.setDelegate(nullptr); });
 
+    if (!commandLine.isDemo) {
+        SupportDirectory::makeDataHome();
+    }
     std::unique_ptr<StoreLock> lock;
     if (!commandLine.isDemo && !isSnapshot) {
         lock = lockStore(delegate);

@@ -51,6 +51,8 @@ void TiledBackground::prepare(double devicePixelRatio)
         QString name = m_fileName;
         name.insert(name.lastIndexOf(u'.'), u"@2x");
         image = QImage(name);
+        // Its name says two pixels a point; from here on only its pixels count.
+        image.setDevicePixelRatio(1.0);
         if (image.size() != size) {
             image = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
         }
