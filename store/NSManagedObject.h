@@ -147,7 +147,8 @@ private:
 template <typename Value>
 Value NSManagedObject::readBlock(std::size_t offset) const
 {
-    std::array<std::byte, sizeof(Value)> bytes = {};
+    // A reference to another record is read as a pointer: its size is meant.
+    std::array<std::byte, sizeof(Value)> bytes = {}; // NOLINT(bugprone-sizeof-expression)
     std::memcpy(bytes.data(), m_block.get() + offset, bytes.size());
     return std::bit_cast<Value>(bytes);
 }
@@ -156,7 +157,8 @@ template <typename Value>
 void NSManagedObject::writeBlock(std::size_t offset, const Value& value)
 {
     static_assert(std::is_trivially_copyable_v<Value>);
-    std::memcpy(m_block.get() + offset, &value, sizeof(Value));
+    std::memcpy(m_block.get() + offset, &value,
+                sizeof(Value)); // NOLINT(bugprone-sizeof-expression)
 }
 
 template <typename Value>

@@ -481,7 +481,6 @@ void NSManagedObjectContext::takeBack(const ChangeLog& log)
             context.changeTarget(*step.record, *step.relationship, step.oldTarget);
         }
     };
-    for (auto step = log.rbegin(); step != log.rend(); ++step) {
-        std::visit(Inverse{*this}, *step);
-    }
+    std::for_each(log.rbegin(), log.rend(),
+                  [this](const auto& step) { std::visit(Inverse{*this}, step); });
 }

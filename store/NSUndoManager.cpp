@@ -3,6 +3,7 @@
 #include <QMetaObject>
 #include <QScopeGuard>
 
+#include <algorithm>
 #include <stdexcept>
 #include <utility>
 
@@ -165,9 +166,8 @@ void NSUndoManager::runLatest(std::vector<Step>& from, std::vector<Step>& to, Ac
         m_openStep = {};
     });
     const auto run = [](const std::vector<Operation>& operations) {
-        for (auto operation = operations.rbegin(); operation != operations.rend(); ++operation) {
-            (*operation)();
-        }
+        std::for_each(operations.rbegin(), operations.rend(),
+                      [](const Operation& operation) { operation(); });
     };
     try {
         run(step.operations);

@@ -102,6 +102,7 @@ public:
     }
     UndoGroup(const UndoGroup&) = delete;
     UndoGroup& operator=(const UndoGroup&) = delete;
+    // NOLINTNEXTLINE(bugprone-exception-escape): the group is open, as ending it requires.
     ~UndoGroup() { m_undoManager.endUndoGrouping(); }
 
 private:
@@ -119,6 +120,7 @@ public:
     }
     UndoRegistrationDisabled(const UndoRegistrationDisabled&) = delete;
     UndoRegistrationDisabled& operator=(const UndoRegistrationDisabled&) = delete;
+    // NOLINTNEXTLINE(bugprone-exception-escape): registration is off, as enabling it requires.
     ~UndoRegistrationDisabled() { m_undoManager.enableUndoRegistration(); }
 
 private:

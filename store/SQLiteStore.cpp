@@ -24,10 +24,10 @@ constexpr int busyTimeoutMilliseconds = 1000;
 
 /// Up to this size a file is checked from end to end when it is opened: some ten thousand
 /// statements, and less than ten milliseconds.
-constexpr qint64 fullCheckSize = 1024 * 1024;
+constexpr qint64 fullCheckSize = qint64(1) << 20;
 /// Up to this size its structure is, without comparing tables and indexes. Beyond, that would keep
 /// the window waiting; SQLite then reports damage when it meets it.
-constexpr qint64 quickCheckSize = 4 * 1024 * 1024;
+constexpr qint64 quickCheckSize = qint64(4) << 20;
 
 /// The range of numbers in SQLite's ordering: it leaves out texts, which come after all numbers,
 /// and the infinities.

@@ -132,6 +132,7 @@ std::string updateRow(const NSEntityDescription& entity, const std::vector<int>&
 {
     const auto names = quotedNames(columns(entity));
     std::vector<std::string> assignments;
+    assignments.reserve(columnNumbers.size());
     for (const auto number : columnNumbers) {
         assignments.push_back(names[static_cast<std::size_t>(number)] + " = ?");
     }
