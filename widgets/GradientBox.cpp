@@ -27,6 +27,18 @@ void GradientBox::setGradientEndColor(const QColor& color)
     update();
 }
 
+void GradientBox::setHasTopBorder(bool hasTopBorder)
+{
+    m_hasTopBorder = hasTopBorder;
+    update();
+}
+
+void GradientBox::setTopBorderColor(const QColor& color)
+{
+    m_topBorderColor = color;
+    update();
+}
+
 void GradientBox::setHasBottomBorder(bool hasBottomBorder)
 {
     m_hasBottomBorder = hasBottomBorder;
@@ -56,8 +68,11 @@ void GradientBox::paintEvent(QPaintEvent* /*event*/)
         gradient.setColorAt(1, m_gradientEndColor);
         painter.fillRect(box, gradient);
     }
+    const QSizeF size(box.width(), snapping.lineWidth());
+    if (m_hasTopBorder) {
+        painter.fillRect(QRectF(box.topLeft(), size), m_topBorderColor);
+    }
     if (m_hasBottomBorder) {
-        const QSizeF size(box.width(), snapping.lineWidth());
         QRectF line(box.bottomLeft() - QPointF(0, size.height()), size);
         painter.fillRect(line, m_bottomBorderColor);
         line.translate(0, -size.height());

@@ -3,8 +3,8 @@
 #include <QColor>
 #include <QWidget>
 
-/// A panel that fills itself with a vertical gradient and ends in a border along its bottom edge.
-/// Both are off at first; the box is transparent where it paints nothing.
+/// A panel that fills itself with a vertical gradient between borders along its top and its bottom
+/// edge. All are off at first; the box is transparent where it paints nothing.
 class GradientBox : public QWidget
 {
     Q_OBJECT
@@ -21,7 +21,12 @@ public:
     QColor gradientEndColor() const { return m_gradientEndColor; }
     void setGradientEndColor(const QColor& color);
 
-    /// A line one point thick.
+    /// A line one point thick, as is the one at the bottom.
+    bool hasTopBorder() const { return m_hasTopBorder; }
+    void setHasTopBorder(bool hasTopBorder);
+    QColor topBorderColor() const { return m_topBorderColor; }
+    void setTopBorderColor(const QColor& color);
+
     bool hasBottomBorder() const { return m_hasBottomBorder; }
     void setHasBottomBorder(bool hasBottomBorder);
     QColor bottomBorderColor() const { return m_bottomBorderColor; }
@@ -38,6 +43,8 @@ private:
     bool m_hasGradient = false;
     QColor m_gradientStartColor = Qt::white;
     QColor m_gradientEndColor = Qt::white;
+    bool m_hasTopBorder = false;
+    QColor m_topBorderColor = Qt::black;
     bool m_hasBottomBorder = false;
     QColor m_bottomBorderColor = Qt::black;
     double m_bottomInsetAlpha = 0.0;

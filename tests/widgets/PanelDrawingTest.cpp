@@ -32,7 +32,7 @@ std::pair<int, int> rowsWith(const QImage& image, const QColor& color)
 
 } // namespace
 
-TEST(PanelDrawingTest, AGradientBoxEndsInABorderOfWholePixels)
+TEST(PanelDrawingTest, AGradientBoxHasBordersOfWholePixels)
 {
     GradientBox box;
     box.resize(20, 30);
@@ -58,8 +58,12 @@ TEST(PanelDrawingTest, AGradientBoxEndsInABorderOfWholePixels)
         EXPECT_NEAR(image.pixelColor(3, last - thickness).red(), 60, 9);
 
         box.setBottomInsetAlpha(1);
+        box.setHasTopBorder(true);
+        box.setTopBorderColor(Qt::yellow);
         box.render(&image, {}, {}, QWidget::DrawChildren);
         EXPECT_EQ(rowsWith(image, Qt::white).second, last - thickness) << ratio;
+        EXPECT_EQ(rowsWith(image, Qt::yellow), std::pair(0, thickness - 1)) << ratio;
+        box.setHasTopBorder(false);
     }
 }
 

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QProxyStyle>
+
+/// How the program's controls look where its panels do not draw them: Fusion, with scroll bars, a
+/// slider and a focus ring of its own. Meant for the whole application.
+///
+/// - Scroll bars are flat, without arrow buttons, and shaded from the colour of the ground that
+///   they stand on: the palette's colour for the bar's background role, `Window` unless somebody
+///   chose another. A view with a dark ground says so in its palette.
+/// - Horizontal sliders without tick marks have a thin groove and a round knob.
+/// - What has the keyboard focus shows a rounded ring just inside its edges, a QFocusFrame too.
+/// - The letters that go with Alt are underlined only while Alt is held.
+class PanelStyle : public QProxyStyle
+{
+    Q_OBJECT
+
+public:
+    PanelStyle();
+
+    using QProxyStyle::polish;
+    using QProxyStyle::unpolish;
+    void polish(QApplication* application) override;
+    void unpolish(QApplication* application) override;
+
+    int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                    const QWidget* widget) const override;
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returnData) const override;
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option,
+                         SubControl subControl, const QWidget* widget) const override;
+
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                            QPainter* painter, const QWidget* widget) const override;
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
+
+    /// Watches the application's events for the Alt key.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void setAltHeld(bool isHeld);
+
+    bool m_isAltHeld = false;
+};
