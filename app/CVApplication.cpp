@@ -2,13 +2,15 @@
 
 #include "foundation/Log.h"
 #include "mainwindow/MainWindowController.h"
+#include "widgets/AccessibleRowList.h"
+#include "widgets/PanelStyle.h"
 
 #include <QAction>
 #include <QFontDatabase>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QMenuBar>
 #include <QMetaMethod>
-#include <QStyleFactory>
 
 #include <exception>
 
@@ -25,6 +27,34 @@ QMetaMethod slotForAction(const QObject& object, const QByteArray& action)
         }
     }
     return {};
+}
+
+/// The main window that an object belongs to; null when it belongs to none.
+CVMainWindow* mainWindowOf(QObject* object)
+{
+    for (; object; object = object->parent()) {
+        if (auto* const window = qobject_cast<CVMainWindow*>(object)) {
+            return window;
+        }
+    }
+    return nullptr;
+}
+
+/// Null when it is not the main window.
+MainWindowController* controllerOf(const QWidget* widget)
+{
+    const auto* const window = qobject_cast<const CVMainWindow*>(widget);
+    return window ? dynamic_cast<MainWindowController*>(window->delegate()) : nullptr;
+}
+
+/// The window's menu items that stand for a command.
+QList<QAction*> itemsOf(const CVMainWindow& window)
+{
+    auto items = window.findChildren<QAction*>(QString(), Qt::FindDirectChildrenOnly);
+    items.removeIf([](const QAction* item) {
+        return UserInterfaceValidations::actionOfItem(*item).isEmpty();
+    });
+    return items;
 }
 
 bool hasDesktopSettings()
@@ -47,7 +77,8 @@ QPalette lightPalette()
 CVApplication::CVApplication(int& argc, char** argv)
     : QApplication(argc, argv)
 {
-    setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    AccessibleRowList::installFactory();
+    setStyle(new PanelStyle);
     setPalette(lightPalette());
     const auto fallbackFamily = QStringLiteral("Inter");
     if (!hasDesktopSettings() && QFontDatabase::hasFamily(fallbackFamily)) {
@@ -55,10 +86,10 @@ CVApplication::CVApplication(int& argc, char** argv)
     }
 }
 
-QObject* CVApplication::targetForAction(const QByteArray& action, QObject* to,
-                                        QObject* /*from*/) const
+QObject* CVApplication::targetForAction(const QByteArray& action, QObject* to, QObject* from) const
 {
-    auto* const controller = keyWindowController();
+    auto* const window = activeWindow() ? activeWindow() : mainWindowOf(from);
+    auto* const controller = controllerOf(window);
     if (controller && isUndoOrRedo(action)) {
         return controller;
     }
@@ -68,8 +99,8 @@ QObject* CVApplication::targetForAction(const QByteArray& action, QObject* to,
     const auto canDo = [&action](const QObject* object) {
         return object && slotForAction(*object, action).isValid();
     };
-    auto* const focused = focusWidget() ? focusWidget() : activeWindow();
-    for (QObject* responder = focused; responder; responder = responder->parent()) {
+    for (QObject* responder = focusWidget() ? focusWidget() : window; responder;
+         responder = responder->parent()) {
         if (canDo(responder)) {
             return responder;
         }
@@ -95,20 +126,43 @@ bool CVApplication::sendAction(const QByteArray& action, QObject* to, QObject* f
                : method.invoke(target, Qt::DirectConnection, Q_ARG(QObject*, from));
 }
 
-void CVApplication::connectActions(QWidget& window)
+void CVApplication::connectActions(CVMainWindow& window)
 {
-    for (auto* const action : window.findChildren<QAction*>()) {
-        if (!action->menu() && !action->isSeparator() && !action->objectName().isEmpty()) {
-            connect(action, &QAction::triggered, this, [this, action] {
-                sendAction(action->objectName().toLatin1(), nullptr, action);
-            });
-        }
+    for (auto* const item : itemsOf(window)) {
+        connect(item, &QAction::triggered, this, [this, item] {
+            sendAction(UserInterfaceValidations::actionOfItem(*item), nullptr, item);
+        });
+    }
+    const auto validate = [this, &window] {
+        validateActions(window);
+    };
+    for (const auto* const menu : window.menuBar()->findChildren<QMenu*>()) {
+        connect(menu, &QMenu::aboutToShow, &window, validate);
+    }
+    connect(&window, &CVMainWindow::userInterfaceItemsDidChange, &window, validate);
+    connect(this, &QApplication::focusChanged, &window, validate);
+    validate();
+}
+
+void CVApplication::validateActions(const CVMainWindow& window) const
+{
+    for (auto* const item : itemsOf(window)) {
+        auto* const target =
+            targetForAction(UserInterfaceValidations::actionOfItem(*item), nullptr, item);
+        auto* const validations = dynamic_cast<UserInterfaceValidations*>(target);
+        item->setEnabled(target && (!validations || validations->validateUserInterfaceItem(*item)));
     }
 }
 
 bool CVApplication::notify(QObject* receiver, QEvent* event)
 {
     try {
+        if (event->type() == QEvent::ShortcutOverride) {
+            // What a key may do is decided by what makes sense when it is pressed.
+            if (const auto* const window = qobject_cast<CVMainWindow*>(activeWindow())) {
+                validateActions(*window);
+            }
+        }
         if (isUndoOrRedoKey(*event)) {
             // Fields have an undo of their own for what is typed in them. Not offered to them, the
             // key reaches the window's action; left over from that, it is nobody's.
@@ -127,12 +181,6 @@ void CVApplication::terminate()
     quit();
 }
 
-MainWindowController* CVApplication::keyWindowController()
-{
-    const auto* const window = qobject_cast<CVMainWindow*>(activeWindow());
-    return window ? dynamic_cast<MainWindowController*>(window->delegate()) : nullptr;
-}
-
 bool CVApplication::isUndoOrRedo(const QByteArray& action)
 {
     return action == "undo" || action == "redo";
@@ -145,5 +193,5 @@ bool CVApplication::isUndoOrRedoKey(const QEvent& event)
     }
     const auto& key = static_cast<const QKeyEvent&>(event);
     return (key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo)) &&
-           !activeModalWidget() && !activePopupWidget() && keyWindowController();
+           !activeModalWidget() && !activePopupWidget() && controllerOf(activeWindow());
 }

@@ -3,14 +3,15 @@
 #include <QApplication>
 #include <QByteArray>
 
-class MainWindowController;
+class CVMainWindow;
 class QKeyEvent;
 
 /// The application: it sends the commands of menus and keys to whom they concern.
 ///
 /// A command is the name of a slot, with or without the sender as argument. It goes to the first
 /// that has such a slot: of the widget with the focus, its parents up to the window, the window's
-/// delegate, the application, and the application's delegate. Undo and redo are the exception:
+/// delegate, the application, and the application's delegate. While no window is active, the
+/// sender's window is asked. Undo and redo are the exception:
 /// while the main window is active they go to its controller, whatever has the focus.
 class CVApplication : public QApplication
 {
@@ -28,8 +29,9 @@ public:
     /// Sends `action` there. False when nobody carries it out.
     bool sendAction(const QByteArray& action, QObject* to, QObject* from) const;
 
-    /// Lets each menu item of the window send the action that its object name is.
-    void connectActions(QWidget& window);
+    /// Lets each menu item of the window send its action, and be enabled only while somebody
+    /// carries that out and finds that it makes sense.
+    void connectActions(CVMainWindow& window);
 
     /// The net under all event handlers: what one throws is logged.
     bool notify(QObject* receiver, QEvent* event) override;
@@ -40,8 +42,7 @@ public Q_SLOTS:
     void terminate();
 
 private:
-    /// The controller of the active window, when that is the main window.
-    static MainWindowController* keyWindowController();
+    void validateActions(const CVMainWindow& window) const;
     static bool isUndoOrRedo(const QByteArray& action);
     /// Whether a key event is the undo or redo key on its way to a field of the main window.
     static bool isUndoOrRedoKey(const QEvent& event);

@@ -25,9 +25,10 @@ const QString className = QStringLiteral("Corvane_AppDelegate");
 
 } // namespace
 
-Corvane_AppDelegate::Corvane_AppDelegate(AlertPresenter& alerts,
+Corvane_AppDelegate::Corvane_AppDelegate(AlertPresenter& alerts, UserDefaults userDefaults,
                                          std::optional<QString> supportDirectory)
     : m_alerts(alerts)
+    , m_userDefaults(std::move(userDefaults))
     , m_supportDirectory(std::move(supportDirectory))
 {}
 
@@ -163,6 +164,9 @@ bool Corvane_AppDelegate::mayTerminate()
 
 void Corvane_AppDelegate::sessionWillEnd()
 {
+    if (m_mainWindowController) {
+        m_mainWindowController->windowWillClose();
+    }
     if (!m_managedObjectContext) {
         return;
     }

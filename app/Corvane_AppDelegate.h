@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/UserDefaults.h"
 #include "mainwindow/MainWindowHost.h"
 
 #include <QObject>
@@ -29,8 +30,8 @@ public:
 
     /// Works in `supportDirectory`; in the person's own where it is absent. The presenter must
     /// outlive the delegate.
-    explicit Corvane_AppDelegate(AlertPresenter& alerts,
-                                 std::optional<QString> supportDirectory = std::nullopt);
+    Corvane_AppDelegate(AlertPresenter& alerts, UserDefaults userDefaults,
+                        std::optional<QString> supportDirectory = std::nullopt);
     ~Corvane_AppDelegate() override;
 
     /// The directory of the store file.
@@ -55,10 +56,11 @@ public:
     TerminateReply applicationShouldTerminate();
     bool applicationShouldTerminateAfterLastWindowClosed() const { return true; }
     bool applicationShouldHandleReopen() const { return true; }
+    UserDefaults& userDefaults() override { return m_userDefaults; }
     bool mayTerminate() override;
 
-    /// The session or the system ends the program: saves without asking anybody. What fails is
-    /// reported on standard error.
+    /// The session or the system ends the program: saves, and remembers the view, without asking
+    /// anybody. What fails is reported on standard error.
     void sessionWillEnd();
 
 public Q_SLOTS:
@@ -67,6 +69,7 @@ public Q_SLOTS:
 
 private:
     AlertPresenter& m_alerts;
+    UserDefaults m_userDefaults;
     std::optional<QString> m_supportDirectory;
     // In the order in which each builds on the one before.
     std::unique_ptr<NSManagedObjectModel> m_managedObjectModel;

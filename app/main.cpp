@@ -63,7 +63,11 @@ int runApplication(CVApplication& application, const CommandLine& commandLine)
     if (commandLine.isDemo) {
         supportDirectory = demoDirectory.emplace().path();
     }
-    Corvane_AppDelegate delegate(*alerts, supportDirectory);
+    const bool isPersonal = !commandLine.isDemo && !isSnapshot;
+    Corvane_AppDelegate delegate(*alerts,
+                                 isPersonal ? UserDefaults::standardUserDefaults()
+                                            : UserDefaults::volatileDefaults(),
+                                 supportDirectory);
     application.setDelegate(&delegate);
     const auto done = qScopeGuard([&application] { application.setDelegate(nullptr); });
 
@@ -71,7 +75,7 @@ int runApplication(CVApplication& application, const CommandLine& commandLine)
         SupportDirectory::makeDataHome();
     }
     std::unique_ptr<StoreLock> lock;
-    if (!commandLine.isDemo && !isSnapshot) {
+    if (isPersonal) {
         lock = lockStore(delegate);
         if (lock->state() == StoreLock::State::HeldByAnother) {
             Log::line(u"Corvane is running already: its data are in use.");
@@ -92,6 +96,7 @@ int runApplication(CVApplication& application, const CommandLine& commandLine)
     QGuiApplication::setQuitOnLastWindowClosed(false);
     delegate.applicationDidFinishLaunching();
     auto& window = delegate.mainWindowController()->window();
+    application.connectActions(window);
     if (isSnapshot) {
         if (!Snapshot::draw(window, commandLine.snapshotPath)) {
             Log::line(QString(u"Unable to write " + commandLine.snapshotPath));
@@ -100,7 +105,6 @@ int runApplication(CVApplication& application, const CommandLine& commandLine)
         return 0;
     }
 
-    application.connectActions(window);
     QGuiApplication::setQuitOnLastWindowClosed(
         delegate.applicationShouldTerminateAfterLastWindowClosed());
     auto& controller = *delegate.mainWindowController();

@@ -49,7 +49,7 @@ class Program
 {
 public:
     explicit Program(const QString& directory)
-        : m_delegate(m_alerts, directory)
+        : m_delegate(m_alerts, UserDefaults::volatileDefaults(), directory)
     {
         m_delegate.applicationDidFinishLaunching();
         window().resize(windowSize);
@@ -148,7 +148,8 @@ int runAsChild(const std::string& task, int argc, char** argv)
         return QCoreApplication::exec();
     }
     LogPresenter alerts;
-    Corvane_AppDelegate delegate(alerts, QString::fromLocal8Bit(argv[2]));
+    Corvane_AppDelegate delegate(alerts, UserDefaults::volatileDefaults(),
+                                 QString::fromLocal8Bit(argv[2]));
     delegate.applicationDidFinishLaunching();
     auto& window = delegate.mainWindowController()->window();
     window.resize(windowSize);

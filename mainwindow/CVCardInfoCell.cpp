@@ -1,28 +1,32 @@
 #include "mainwindow/CVCardInfoCell.h"
 
-#include "mainwindow/CVCardTableRowView.h"
 #include "model/CVCard.h"
 #include "model/CVStatement.h"
 #include "timeline/CVAdditions.h"
+#include "widgets/VRGradientBackgroundStencil.h"
 #include "widgets/VRLetterpress.h"
 
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QPainter>
+#include <QStringList>
+
+#include <vector>
 
 namespace {
 
 // Distances in points, from the cell's upper left corner.
 constexpr double inset = 6.0;
 constexpr double accountGap = 8.0;
+constexpr double accountTop = 9.0;
+constexpr double amountsTop = 29.0;
+constexpr double rateTop = 50.0;
+constexpr double forecastTop = 68.0;
 
-/// A line of text below the name.
-struct Line
-{
-    double top = 0.0;
-    int pixelSize = 0;
-    QColor color;
-};
+constexpr int titleSize = 14;
+constexpr int amountsSize = 13;
+constexpr int smallestAmountsSize = 10;
+constexpr int detailSize = 11;
 
 QFont systemFont(int pixelSize)
 {
@@ -31,20 +35,61 @@ QFont systemFont(int pixelSize)
     return font;
 }
 
-/// Draws as much of the text as fits between `left` and the end of the cell.
-void drawLine(QPainter& painter, const QString& text, const Line& line, const QRectF& frame,
-              double left)
+/// The largest font up to `pixelSize` in which the text is no wider than `width`, but none smaller
+/// than the smallest.
+QFont fittingFont(const QString& text, double width, int pixelSize, int smallestPixelSize)
 {
-    const double width = frame.right() - inset - left;
-    if (text.isEmpty() || width <= 0.0) {
-        return;
+    QFont font = systemFont(pixelSize);
+    while (pixelSize > smallestPixelSize && QFontMetricsF(font).horizontalAdvance(text) > width) {
+        font.setPixelSize(--pixelSize);
     }
-    const auto font = systemFont(line.pixelSize);
-    painter.setFont(font);
-    painter.setPen(line.color);
-    const QRectF box(left, frame.y() + line.top, width, QFontMetricsF(font).height());
-    painter.drawText(box, Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine,
-                     QFontMetricsF(font).elidedText(text, Qt::ElideRight, width));
+    return font;
+}
+
+/// A text of the cell, and where it goes.
+struct Line
+{
+    QString text;
+    QRectF box;
+    QFont font;
+    bool isSubtitle = true;
+
+    QString elidedText() const
+    {
+        return QFontMetricsF(font).elidedText(text, Qt::ElideRight, box.width());
+    }
+};
+
+/// The name first.
+std::vector<Line> linesOf(const CVCard& card, const QRectF& frame, double trailingSpace)
+{
+    std::vector<Line> lines;
+    const double left = frame.x() + inset;
+    const double right = frame.right() - trailingSpace;
+    const auto add = [&](const QString& text, double x, double top, const QFont& font,
+                         bool isSubtitle = true) {
+        if (x < right) {
+            const QRectF box(x, frame.y() + top, right - x, QFontMetricsF(font).height());
+            lines.push_back({text, box, font, isSubtitle});
+        }
+    };
+    const auto titleFont = systemFont(titleSize);
+    const auto detailFont = systemFont(detailSize);
+    const auto name = card.name().value_or(QString());
+    add(name, left, inset, titleFont, false);
+    const double nameWidth = QFontMetricsF(titleFont).horizontalAdvance(name);
+    add(card.account().value_or(QString()), left + nameWidth + accountGap, accountTop, detailFont);
+    if (const auto* const statement = card.lastStatement()) {
+        const auto amounts = statement->formattedBalanceAndLimit();
+        const auto font = fittingFont(amounts, right - left, amountsSize, smallestAmountsSize);
+        add(amounts, left,
+            amountsTop + QFontMetricsF(systemFont(amountsSize)).ascent() -
+                QFontMetricsF(font).ascent(),
+            font, false);
+        add(statement->formattedAPR(), left, rateTop, detailFont);
+        add(card.formattedForecast(), left, forecastTop, detailFont);
+    }
+    return lines;
 }
 
 } // namespace
@@ -54,26 +99,40 @@ void CVCardInfoCell::drawWithFrame(QPainter& painter, const QRectF& frame) const
     if (!m_card) {
         return;
     }
-    CVCardTableRowView::drawBackground(painter, frame, m_isHighlighted);
+    VRGradientBackgroundStencil stencil;
+    stencil.setGradientHeight(10.0);
+    stencil.setHighlighted(m_isHighlighted);
+    stencil.setBaseColor(CVAdditions::cvCardBackgroundColorForHighlightedState(m_isHighlighted));
+    stencil.drawInRect(painter, frame);
 
+    const auto lines = linesOf(*m_card, frame, m_trailingSpace);
     const auto titleColor = CVAdditions::cvCardTitleColorForHighlightedState(m_isHighlighted);
     const auto subtitleColor = CVAdditions::cvCardSubtitleColorForHighlightedState(m_isHighlighted);
-    const VRLetterpress::Attributes title{systemFont(14), titleColor};
-    const QFontMetricsF metrics(title.font);
-    const double left = frame.x() + inset;
-    const auto name = metrics.elidedText(m_card->name().value_or(QString()), Qt::ElideRight,
-                                         frame.width() - 2.0 * inset);
-    VRLetterpress::vr_drawLetterpressAtPoint(painter, name, {left, frame.y() + inset}, title,
-                                             m_isHighlighted ? 0.5 : 0.75);
-
-    const Line account{inset + 3.0, 11, subtitleColor};
-    drawLine(painter, m_card->account().value_or(QString()), account, frame,
-             left + metrics.horizontalAdvance(name) + accountGap);
-    const auto* const statement = m_card->lastStatement();
-    if (!statement) {
-        return;
+    bool isTitle = true;
+    for (const auto& line : lines) {
+        if (isTitle) {
+            VRLetterpress::vr_drawLetterpressAtPoint(painter, line.elidedText(), line.box.topLeft(),
+                                                     {line.font, titleColor},
+                                                     m_isHighlighted ? 0.5 : 0.75);
+            isTitle = false;
+            continue;
+        }
+        painter.setFont(line.font);
+        painter.setPen(line.isSubtitle ? subtitleColor : titleColor);
+        painter.drawText(line.box, Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine,
+                         line.elidedText());
     }
-    drawLine(painter, statement->formattedBalanceAndLimit(), {29.0, 13, titleColor}, frame, left);
-    drawLine(painter, statement->formattedAPR(), {50.0, 11, subtitleColor}, frame, left);
-    drawLine(painter, m_card->formattedForecast(), {68.0, 11, subtitleColor}, frame, left);
+}
+
+QString CVCardInfoCell::expansionToolTip(const QRectF& frame) const
+{
+    QStringList cut;
+    if (m_card) {
+        for (const auto& line : linesOf(*m_card, frame, m_trailingSpace)) {
+            if (line.elidedText() != line.text) {
+                cut.append(line.text);
+            }
+        }
+    }
+    return cut.join(u'\n');
 }

@@ -1,22 +1,22 @@
 #include "mainwindow/CVCardTableView.h"
 
+#include "mainwindow/AccessibleCardRow.h"
 #include "mainwindow/CVCardTableRowView.h"
+#include "mainwindow/CVCardTableViewDelegate.h"
 #include "model/CVCard.h"
 #include "store/NSArrayController.h"
-#include "store/NSManagedObjectContext.h"
-#include "store/NSPersistentStoreCoordinator.h"
 
-namespace {
+#include <QAbstractButton>
+#include <QAction>
+#include <QMouseEvent>
 
-/// How far a card's cell stays away from the ends of its row, in points.
-constexpr int cellInset = 4;
-
-} // namespace
+#include <algorithm>
 
 CVCardTableView::CVCardTableView(QWidget* parent)
     : RowTableView(parent)
 {
     setTiledBackground(TiledBackground(QStringLiteral(":/images/whitey.png")));
+    setAccessibleName(tr("Cards"));
 }
 
 void CVCardTableView::setCardsController(NSArrayController& cards)
@@ -24,27 +24,160 @@ void CVCardTableView::setCardsController(NSArrayController& cards)
     m_cards = &cards;
     setModel(&cards);
     setSelectionModel(&cards.selectionModel());
+    connect(&cards.selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &CVCardTableView::showSelection);
+    connect(&cards, &QAbstractItemModel::dataChanged, this,
+            [this](const QModelIndex& first, const QModelIndex& last) {
+                for (int row = first.row(); row <= last.row(); ++row) {
+                    if (auto* const view = rowView(row)) {
+                        view->cellView().update();
+                    }
+                }
+            });
 }
 
-void CVCardTableView::beginRows()
+void CVCardTableView::setAddStatementAction(QAction* action)
 {
-    if (auto* const context = m_cards ? m_cards->managedObjectContext() : nullptr) {
-        m_reading.emplace(context->persistentStoreCoordinator().store());
+    m_addStatementAction = action;
+    connect(action, &QAction::enabledChanged, this,
+            &CVCardTableView::showWhetherStatementsCanBeAdded);
+    showWhetherStatementsCanBeAdded();
+}
+
+CVCard* CVCardTableView::cardAtRow(int row) const
+{
+    return row >= 0 && row < numberOfRows()
+               ? static_cast<CVCard*>(m_cards->arrangedObjects()[static_cast<std::size_t>(row)])
+               : nullptr;
+}
+
+CVCardTableRowView* CVCardTableView::rowView(int row) const
+{
+    const auto found = m_rowViews.find(row);
+    return found == m_rowViews.end() ? nullptr : found->second;
+}
+
+std::optional<int> CVCardTableView::rowForView(const QWidget* view) const
+{
+    const auto found = std::ranges::find_if(m_rowViews, [view](const auto& entry) {
+        return view == entry.second || entry.second->isAncestorOf(view);
+    });
+    return found == m_rowViews.end() ? std::nullopt : std::optional(found->first);
+}
+
+QRect CVCardTableView::cardInfoPopoverAnchorRectForRow(int row) const
+{
+    const auto* const view = rowView(row);
+    return view
+               ? rectForSubview(view->cellView().viewWithTag(CVCardTableCellView::cardInfoTag), row)
+               : QRect();
+}
+
+QRect CVCardTableView::newStatementPopoverAnchorRectForRow(int row) const
+{
+    const auto* const view = rowView(row);
+    return view ? rectForSubview(view->cellView().viewWithTag(CVCardTableCellView::newStatementTag),
+                                 row)
+                : QRect();
+}
+
+void CVCardTableView::redrawRows()
+{
+    for (const auto& [row, view] : m_rowViews) {
+        view->cellView().update();
+    }
+    accessibleRowEvents().descriptionsDidChange();
+}
+
+std::unique_ptr<AccessibleRow> CVCardTableView::makeAccessibleRow(AccessibleRowList& list,
+                                                                  const QModelIndex& index)
+{
+    return std::make_unique<AccessibleCardRow>(list, index);
+}
+
+void CVCardTableView::willSelectRow(int row)
+{
+    if (m_delegate) {
+        m_delegate->cardTableViewDidSelectCard(*this, *cardAtRow(row), row);
     }
 }
 
-void CVCardTableView::endRows()
+void CVCardTableView::layoutRows()
 {
-    m_reading.reset();
+    const auto visible = visibleRect();
+    const bool isAnyVisible = isVisible() && numberOfRows() > 0 && !visible.isEmpty();
+    const int first = isAnyVisible ? visible.top() / rowHeight() : 0;
+    const int end = isAnyVisible ? std::min(numberOfRows(), visible.bottom() / rowHeight() + 1) : 0;
+    for (auto entry = m_rowViews.begin(); entry != m_rowViews.end();) {
+        if (entry->first >= first && entry->first < end) {
+            ++entry;
+            continue;
+        }
+        entry->second->hide();
+        entry->second->cellView().setObjectValue(nullptr);
+        m_spareRowViews.push_back(entry->second);
+        entry = m_rowViews.erase(entry);
+    }
+    for (int row = first; row < end; ++row) {
+        const bool isNew = !m_rowViews.contains(row);
+        auto& view = rowViewForRow(row);
+        view.setGeometry(rectOfRow(row));
+        view.setSelected(isRowSelected(row));
+        auto* const card = cardAtRow(row);
+        if (view.cellView().objectValue() != card) {
+            view.cellView().setObjectValue(card);
+        }
+        view.cellView().addStatementButton().setEnabled(canAddStatements());
+        view.show();
+        if (isNew) {
+            Q_EMIT didAddRowView(&view, row);
+        }
+    }
 }
 
-void CVCardTableView::paintRow(QPainter& painter, int row, const QRect& rect,
-                               const QRect& /*exposed*/)
+void CVCardTableView::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    const bool isSelected = isRowSelected(row);
-    CVCardTableRowView::drawBackground(painter, rect, isSelected);
-    m_cell.setObjectValue(
-        static_cast<CVCard*>(m_cards->arrangedObjects()[static_cast<std::size_t>(row)]));
-    m_cell.setHighlighted(isSelected);
-    m_cell.drawWithFrame(painter, rect.adjusted(cellInset, 0, -cellInset, 0));
+    RowTableView::mouseDoubleClickEvent(event);
+    const auto row = rowAtPoint(event->position());
+    if (event->button() == Qt::LeftButton && row) {
+        Q_EMIT doubleClicked(*row);
+    }
+}
+
+QRect CVCardTableView::rectForSubview(const QWidget* view, int row) const
+{
+    return view ? QRect(view->mapTo(this, QPoint()), view->size()) & rectOfRow(row) : QRect();
+}
+
+CVCardTableRowView& CVCardTableView::rowViewForRow(int row)
+{
+    auto& view = m_rowViews[row];
+    if (!view) {
+        if (m_spareRowViews.empty()) {
+            view = new CVCardTableRowView(this);
+        } else {
+            view = m_spareRowViews.back();
+            m_spareRowViews.pop_back();
+        }
+    }
+    return *view;
+}
+
+void CVCardTableView::showSelection()
+{
+    for (const auto& [row, view] : m_rowViews) {
+        view->setSelected(isRowSelected(row));
+    }
+}
+
+bool CVCardTableView::canAddStatements() const
+{
+    return m_addStatementAction && m_addStatementAction->isEnabled();
+}
+
+void CVCardTableView::showWhetherStatementsCanBeAdded()
+{
+    for (const auto& [row, view] : m_rowViews) {
+        view->cellView().addStatementButton().setEnabled(canAddStatements());
+    }
 }

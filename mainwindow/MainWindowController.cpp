@@ -1,25 +1,33 @@
+// The controller's properties, its set-up when the window loads, and what it observes.
+
 #include "mainwindow/MainWindowController.h"
 
 #include "foundation/Log.h"
+#include "foundation/UserDefaults.h"
 #include "mainwindow/MainWindowHost.h"
-#include "model/CVCard.h"
+#include "model/CVManagedObjectContext.h"
 #include "model/CVStatement.h"
 #include "store/NSArrayController.h"
 #include "store/NSError.h"
 #include "store/NSManagedObjectContext.h"
 #include "timeline/CVAdditions.h"
+#include "timeline/HorizontalScrollAnimation.h"
 
 #include "ui_MainWindow.h"
 
-#include <QScrollBar>
-
 namespace {
+
+constexpr auto restoreTimelineGeometryNotification = "CVRestoreTimelineGeometryNotification";
 
 /// The height of every row, of the cards' list and of the timeline, in points.
 constexpr int rowHeight = 96;
 
-/// The width that the list of cards has at first, in points.
+/// The width that the list of cards has at first, and the least that it can have, in points.
 constexpr int cardsPaneWidth = 272;
+constexpr double minimumCardsPaneWidth = 200.0;
+
+/// Where the command that asks for a newer version stands in the application's menu.
+constexpr int checkForUpdatesIndex = 2;
 
 void setUpPanel(GradientBox& box, const QColor& borderColor)
 {
@@ -31,12 +39,21 @@ void setUpPanel(GradientBox& box, const QColor& borderColor)
     box.setBottomBorderColor(borderColor);
 }
 
-/// A panel's title, in the palette's own colours.
-void setUpTitle(LetterpressLabel& label, const QColor& color, int pixelSize)
+/// A panel along the bottom of the window has its border above.
+void setUpBottomPanel(GradientBox& box)
+{
+    setUpPanel(box, CVAdditions::cvPanelDarkerBorderColor());
+    box.setHasBottomBorder(false);
+    box.setHasTopBorder(true);
+    box.setTopBorderColor(CVAdditions::cvPanelDarkerBorderColor());
+}
+
+/// Text in one of the palette's own colours.
+void setUpLabel(QLabel& label, const QColor& color, int pixelSize, QFont::Weight weight)
 {
     QFont font = label.font();
     font.setPixelSize(pixelSize);
-    font.setWeight(QFont::DemiBold);
+    font.setWeight(weight);
     label.setFont(font);
     QPalette palette = label.palette();
     palette.setColor(QPalette::WindowText, color);
@@ -48,9 +65,20 @@ void setUpTitle(LetterpressLabel& label, const QColor& color, int pixelSize)
 MainWindowController::MainWindowController(MainWindowHost& host)
     : m_host(host)
     , m_cardsController(std::make_unique<NSArrayController>("Card", "name"))
+    , m_notifications(NotificationQueue::defaultQueue(), this)
 {}
 
-MainWindowController::~MainWindowController() = default;
+MainWindowController::~MainWindowController()
+{
+    m_notificationObservers.clear();
+    m_observations.clear();
+    if (m_window) {
+        m_scrollAnimation->stop();
+        m_ui->cardsScrollView->stopSync();
+        m_ui->timelineScrollView->stopSync();
+        m_ui->timelineHeaderScrollView->stopSync();
+    }
+}
 
 CVMainWindow& MainWindowController::window()
 {
@@ -79,33 +107,22 @@ void MainWindowController::setContext(NSManagedObjectContext* context)
     }
 }
 
-void MainWindowController::setSelectedStatement(CVStatement* statement)
-{
-    const KeyValueChange change(*this, "selectedStatement");
-    m_selectedStatement = statement;
-}
-
 void MainWindowController::redrawTimeline()
 {
     m_ui->timelineTableView->update();
+    m_ui->timelineHeaderView->update();
 }
 
 void MainWindowController::timeZoneDidChange()
 {
     const KeyValueChange totals(*this, "formattedTotals");
-    m_ui->cardsTableView->update();
+    m_ui->cardsTableView->redrawRows();
     redrawTimeline();
 }
 
-bool MainWindowController::windowShouldClose()
+bool MainWindowController::didShowFirstRunPrompt() const
 {
-    return m_host.mayTerminate();
-}
-
-bool MainWindowController::timelineCellSelectStatement(const CVCardTimelineCell& /*cell*/,
-                                                       const CVStatement& statement) const
-{
-    return &statement == m_selectedStatement;
+    return m_host.userDefaults().boolForKey(u"didShowFirstRunPrompt");
 }
 
 std::vector<std::string_view>
@@ -141,46 +158,104 @@ void MainWindowController::loadWindow()
     m_window->setDelegate(this);
     // A store that could not be opened a moment ago is not tried a second time.
     if (!m_wasContextSet) {
-        setContext(m_host.managedObjectContext());
-    } else {
-        showContext();
+        m_context = m_host.managedObjectContext();
     }
 }
 
 void MainWindowController::windowDidLoad()
 {
+    auto* const applicationMenu = m_window->applicationMenu();
+    auto* const checkForUpdates = new QAction(tr("Check for &Updates…"), m_window.get());
+    checkForUpdates->setObjectName(QStringLiteral("checkForUpdates"));
+    applicationMenu->insertAction(applicationMenu->actions().value(checkForUpdatesIndex),
+                                  checkForUpdates);
+
+    m_ui->splitView->setMinimumSizes({{0, minimumCardsPaneWidth}});
+    m_ui->splitView->setCollapsible(1, false);
+    m_ui->splitView->setDividerColor(CVAdditions::cvPanelDarkerBorderColor());
+    m_ui->splitView->setSizes({cardsPaneWidth, m_window->width() - cardsPaneWidth});
+    connect(m_ui->splitView, &SplitView::paneCollapsedChanged, m_window.get(),
+            &CVMainWindow::userInterfaceItemsDidChange);
+    m_ui->cardsScrollView->setVerticalSyncScrollView(m_ui->timelineScrollView);
+    m_ui->timelineScrollView->setVerticalSyncScrollView(m_ui->cardsScrollView);
+    m_observations.push_back(m_cardsController->observe(
+        "selectionIndex", [this](const ObservedChange&) { selectionIndexDidChange(); }));
+    setUpTables();
+    m_notificationObservers.push_back(NotificationCenter::defaultCenter().addObserver(
+        restoreTimelineGeometryNotification, this,
+        [this](const Notification&) { restoreTimelineGeometry(); }));
+    m_ui->timelineHeaderScrollView->setHorizontalSyncScrollView(m_ui->timelineScrollView);
+    m_ui->timelineScrollView->setHorizontalSyncScrollView(m_ui->timelineHeaderScrollView);
+    m_scrollAnimation = new HorizontalScrollAnimation(
+        *m_ui->timelineScrollView, *m_ui->timelineHeaderScrollView, m_window.get());
+    setUpPanels();
+    setUpZoom();
+    setUpTotals();
+    showContext();
+    restoreWindowFrame();
+    m_notifications.enqueue(restoreTimelineGeometryNotification);
+}
+
+void MainWindowController::setUpTables()
+{
+    auto& cardsTable = *m_ui->cardsTableView;
+    cardsTable.setRowHeight(rowHeight);
+    cardsTable.setCardsController(*m_cardsController);
+    cardsTable.setCardDelegate(this);
+    cardsTable.setAddStatementAction(m_ui->addStatement);
+
+    auto& timelineTable = *m_ui->timelineTableView;
+    timelineTable.setRowHeight(rowHeight);
+    timelineTable.setCardsController(*m_cardsController);
+    timelineTable.setTimelineDelegate(this);
+    timelineTable.setTimelineCellDelegate(this);
+
+    // The header has no cloth of its own: what it does not fill shows the panel under it.
+    m_ui->timelineHeaderScrollView->viewport()->setAutoFillBackground(false);
+    m_ui->timelineHeaderScrollView->setLayoutDirection(Qt::LeftToRight);
+    connect(m_ui->timelineScrollView, &CVTimelineScrollView::timelineWidthDidChange,
+            m_ui->timelineHeaderView, [this](double width) {
+                m_ui->timelineHeaderView->setFixedWidth(static_cast<int>(width));
+            });
+}
+
+void MainWindowController::setUpPanels()
+{
     setUpPanel(*m_ui->cardsTitleBox, CVAdditions::cvPanelDarkBorderColor());
     setUpPanel(*m_ui->timelineHeaderBaseBox, CVAdditions::cvPanelDarkerBorderColor());
-    setUpPanel(*m_ui->totalsBar, CVAdditions::cvPanelDarkBorderColor());
-    m_ui->totalsBar->setHasBottomBorder(false);
-    setUpTitle(*m_ui->cardsTitle, CVAdditions::cvCardTitleColorForHighlightedState(false), 13);
-    setUpTitle(*m_ui->totalsLabel, CVAdditions::cvTimelineHeaderYearTextColor(), 15);
-    m_ui->splitView->setStretchFactor(1, 1);
-    m_ui->splitView->setSizes({cardsPaneWidth, m_window->width() - cardsPaneWidth});
+    setUpBottomPanel(*m_ui->buttonBar);
+    setUpBottomPanel(*m_ui->totalsBar);
 
-    m_ui->cardsTableView->setRowHeight(rowHeight);
-    m_ui->cardsTableView->setCardsController(*m_cardsController);
-    m_ui->timelineTableView->setRowHeight(rowHeight);
-    m_ui->timelineTableView->setCardsController(*m_cardsController);
-    m_ui->timelineTableView->setTimelineCellDelegate(this);
+    const auto titleColor = CVAdditions::cvCardTitleColorForHighlightedState(false);
+    const auto subtitleColor = CVAdditions::cvCardSubtitleColorForHighlightedState(false);
+    setUpLabel(*m_ui->cardsTitle, titleColor, 13, QFont::DemiBold);
+    setUpLabel(*m_ui->totalsLabel, CVAdditions::cvTimelineHeaderYearTextColor(), 15,
+               QFont::DemiBold);
+    setUpLabel(*m_ui->minimumZoomLabel, subtitleColor, 12, QFont::Normal);
+    setUpLabel(*m_ui->maximumZoomLabel, subtitleColor, 12, QFont::Normal);
+    setUpLabel(*m_ui->invitationTitle, QColor(0xE6, 0xE6, 0xE6), 20, QFont::DemiBold);
+    setUpLabel(*m_ui->invitationText, QColor(0xB4, 0xB4, 0xB4), 13, QFont::Normal);
+}
 
-    // The rows of list and timeline stay beside each other.
-    auto* const cardsBar = m_ui->cardsScrollView->verticalScrollBar();
-    auto* const timelineBar = m_ui->timelineScrollView->verticalScrollBar();
-    connect(cardsBar, &QScrollBar::valueChanged, timelineBar, &QScrollBar::setValue);
-    connect(timelineBar, &QScrollBar::valueChanged, cardsBar, &QScrollBar::setValue);
-
+void MainWindowController::setUpTotals()
+{
     const auto showTotals = [this] {
         m_ui->totalsLabel->setText(formattedTotals());
     };
-    m_totalsObservation =
-        observe("formattedTotals", [showTotals](const ObservedChange&) { showTotals(); });
+    m_observations.push_back(
+        observe("formattedTotals", [showTotals](const ObservedChange&) { showTotals(); }));
+    for (const auto* const key : {"canAddStatement", "canScale"}) {
+        m_observations.push_back(observe(key, [this](const ObservedChange&) {
+            Q_EMIT m_window->userInterfaceItemsDidChange();
+        }));
+    }
     showTotals();
 }
 
 void MainWindowController::showContext()
 {
     m_ui->timelineTableView->setManagedObjectContext(m_context);
+    m_ui->timelineHeaderView->setManagedObjectContext(m_context);
     try {
         m_cardsController->setManagedObjectContext(m_context);
     } catch (const NSError& error) {
@@ -190,20 +265,46 @@ void MainWindowController::showContext()
         connect(m_context, &NSManagedObjectContext::objectsDidChange, this,
                 &MainWindowController::contextObjectsDidChange);
         connect(m_context, &NSManagedObjectContext::didSave, this,
-                &MainWindowController::showModified);
+                &MainWindowController::contextDidSave);
     }
     showModified();
+    tickleCanScale();
+    showInvitation();
 }
 
 void MainWindowController::contextObjectsDidChange()
 {
     // A statement shows in its card's row of the list as well.
-    m_ui->cardsTableView->update();
+    m_ui->cardsTableView->redrawRows();
     redrawTimeline();
     showModified();
+    showInvitation();
+}
+
+void MainWindowController::contextDidSave()
+{
+    // The axis goes by what is in the file.
+    redrawTimeline();
+    showModified();
+    tickleCanScale();
+    showInvitation();
 }
 
 void MainWindowController::showModified()
 {
     m_window->setWindowModified(m_context && m_context->hasChanges());
+    Q_EMIT m_window->userInterfaceItemsDidChange();
+}
+
+void MainWindowController::showInvitation()
+{
+    const bool hasCards = m_cardsController->rowCount() > 0;
+    m_ui->invitationTitle->setText(hasCards ? tr("No statements yet") : tr("No cards yet"));
+    m_ui->invitationText->setText(
+        hasCards ? tr("Add a card's statement with the + in its row, and another each month.")
+                 : tr("Add your first card with the + below the list, then a statement each "
+                      "month, and see the day you will be debt-free."));
+    const bool isInviting = m_context && (!hasCards || timelineIsEmpty());
+    m_ui->invitationTitle->setVisible(isInviting);
+    m_ui->invitationText->setVisible(isInviting);
 }

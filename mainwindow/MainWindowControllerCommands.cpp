@@ -1,14 +1,38 @@
-// What the main window's controller does at the person's command, and the line of totals.
+// What the main window's controller does at the person's command, when commands make sense, and the
+// line of totals.
 
 #include "mainwindow/MainWindowController.h"
+#include "mainwindow/MainWindowHost.h"
+#include "model/CVCard.h"
 #include "model/CVManagedObjectContext.h"
 #include "model/CVStatement.h"
 #include "model/DebtForecast.h"
+#include "store/NSArrayController.h"
 #include "store/NSManagedObjectContext.h"
+
+#include "ui_MainWindow.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+
+namespace {
+
+/// Gives an item its title with the name of what it would undo or redo.
+void showActionName(QAction& item, const QString& title, const QString& actionName)
+{
+    item.setText(actionName.isEmpty() ? title : QString(title + u' ' + actionName));
+}
+
+} // namespace
 
 QString MainWindowController::formattedTotals() const
 {
     return m_context ? DebtForecast::formattedDebtFreeDate(*m_context) : QString();
+}
+
+bool MainWindowController::canAddStatement() const
+{
+    return m_context && CVManagedObjectContext::cardCount(*m_context) != 0 && selectedCard();
 }
 
 NSUndoManager* MainWindowController::windowWillReturnUndoManager() const
@@ -36,4 +60,94 @@ void MainWindowController::changeByUndoManager(void (NSUndoManager::*change)())
     (undoManager->*change)();
     CVManagedObjectContext::saveAndLogError(*m_context);
     redrawTimeline();
+}
+
+bool MainWindowController::windowShouldClose()
+{
+    return m_host.mayTerminate();
+}
+
+bool MainWindowController::validateUserInterfaceItem(QAction& item)
+{
+    const auto action = actionOfItem(item);
+    const auto* const undoManager = windowWillReturnUndoManager();
+    if (action == "undo") {
+        showActionName(item, tr("&Undo"), undoManager ? undoManager->undoActionName() : QString());
+        return undoManager && undoManager->canUndo();
+    }
+    if (action == "redo") {
+        showActionName(item, tr("&Redo"), undoManager ? undoManager->redoActionName() : QString());
+        return undoManager && undoManager->canRedo();
+    }
+    if (action == "addStatement") {
+        return canAddStatement();
+    }
+    if (action == "applyScaleMultiplier") {
+        item.setChecked(item.property("tag").toDouble() == m_scale);
+    } else if (action == "toggleCardList") {
+        item.setChecked(!m_ui->splitView->isPaneCollapsed(0));
+    }
+    return true;
+}
+
+void MainWindowController::toggleCardList()
+{
+    m_ui->splitView->setPaneCollapsed(0, !m_ui->splitView->isPaneCollapsed(0));
+}
+
+bool MainWindowController::keyDown(const QKeyEvent& event)
+{
+    if ((event.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) {
+        return false;
+    }
+    switch (event.key()) {
+    case Qt::Key_Right:
+        selectNextStatement();
+        return true;
+    case Qt::Key_Left:
+        selectPreviousStatement();
+        return true;
+    default:
+        return false;
+    }
+}
+
+void MainWindowController::selectNextStatement()
+{
+    const auto* const card = selectedCard();
+    if (m_selectedStatement && m_selectedStatement->card() == card && card) {
+        if (auto* const next = card->nextStatement(*m_selectedStatement)) {
+            selectStatement(next);
+        } else {
+            QApplication::beep();
+        }
+    } else {
+        selectStatement(card && card->lastStatement() ? &card->firstStatement() : nullptr);
+    }
+}
+
+void MainWindowController::selectPreviousStatement()
+{
+    const auto* const card = selectedCard();
+    if (m_selectedStatement && m_selectedStatement->card() == card && card) {
+        if (auto* const previous = card->previousStatement(*m_selectedStatement)) {
+            selectStatement(previous);
+        } else {
+            QApplication::beep();
+        }
+    } else {
+        selectStatement(card ? card->lastStatement() : nullptr);
+    }
+}
+
+void MainWindowController::selectStatement(CVStatement* statement)
+{
+    const auto* const before = m_selectedStatement;
+    setSelectedStatement(statement);
+    if (statement != before) {
+        redrawTimeline();
+        if (statement) {
+            makeStatementVisible(*statement);
+        }
+    }
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 class NSManagedObjectContext;
+class UserDefaults;
 
 /// What the main window needs of the application that it lives in.
 class MainWindowHost
@@ -11,6 +12,8 @@ public:
     /// The store's main context; null when the store cannot be opened, which the person has been
     /// told by then. Asking again tries again.
     virtual NSManagedObjectContext* managedObjectContext() = 0;
+    /// Where the window remembers how the person left it.
+    virtual UserDefaults& userDefaults() = 0;
     /// Closing the window ends the program: whether it may end now.
     virtual bool mayTerminate() = 0;
 };

@@ -132,6 +132,11 @@ std::optional<QString> CVStatement::formattedLimit() const
     return formattedAmount(limit());
 }
 
+std::optional<QString> CVStatement::formattedPayment() const
+{
+    return formattedAmount(payment());
+}
+
 QString CVStatement::formattedBalanceAndLimit() const
 {
     const double limitAmount = doubleValue(limit());

@@ -53,6 +53,7 @@ public:
     /// has no card. Absent when the amount is.
     std::optional<QString> formattedBalance() const;
     std::optional<QString> formattedLimit() const;
+    std::optional<QString> formattedPayment() const;
     /// "£500.00 ÷ £1,000.00 = 50.0%": the balance, the limit, and how much of it is used (0 % of a
     /// limit of 0).
     QString formattedBalanceAndLimit() const;

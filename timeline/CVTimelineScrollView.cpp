@@ -15,12 +15,15 @@ constexpr QColor clothColor(0x3A, 0x3A, 0x3A);
 } // namespace
 
 CVTimelineScrollView::CVTimelineScrollView(QWidget* parent)
-    : QScrollArea(parent)
+    : CVSyncScrollView(parent)
 {
-    // The table is a little narrower than the view: beside it the colour of its cloth goes on.
-    QPalette palette = viewport()->palette();
-    palette.setColor(QPalette::Window, clothColor);
-    viewport()->setPalette(palette);
+    // Time runs from left to right wherever the reader's text does not.
+    setLayoutDirection(Qt::LeftToRight);
+    // The table is a little narrower than the view: beside it, and under the scroll bars, the colour
+    // of its cloth goes on.
+    QPalette cloth = palette();
+    cloth.setColor(QPalette::Window, clothColor);
+    setPalette(cloth);
     viewport()->setAutoFillBackground(true);
 }
 
@@ -40,12 +43,19 @@ double CVTimelineScrollView::adjustTimelineWidth()
     const double timelineWidth = std::floor(scale * viewport()->width()) - columnSpacing;
     if (auto* const table = timelineTableView()) {
         table->setTimelineWidth(timelineWidth);
+        Q_EMIT timelineWidthDidChange(table->timelineWidth());
     }
     return timelineWidth;
 }
 
+double CVTimelineScrollView::timelineWidth() const
+{
+    const auto* const table = timelineTableView();
+    return table ? table->timelineWidth() : 0.0;
+}
+
 void CVTimelineScrollView::resizeEvent(QResizeEvent* event)
 {
-    QScrollArea::resizeEvent(event);
+    CVSyncScrollView::resizeEvent(event);
     adjustTimelineWidth();
 }

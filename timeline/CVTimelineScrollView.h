@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QScrollArea>
+#include "timeline/CVSyncScrollView.h"
 
 class CVTimelineTableView;
 
 /// Shows the timeline table, and makes it as wide as the zoom asks for: a scale of 1 fits the whole
 /// history into view.
-class CVTimelineScrollView : public QScrollArea
+class CVTimelineScrollView : public CVSyncScrollView
 {
     Q_OBJECT
 
@@ -24,6 +24,12 @@ public:
     /// Gives the table the width for the present size and scale, floor(scale × width) − 3 points,
     /// and answers it. The width is what a scroll bar beside the table leaves of the view.
     double adjustTimelineWidth();
+
+    /// The table's width, in points.
+    double timelineWidth() const;
+
+Q_SIGNALS:
+    void timelineWidthDidChange(double width);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

@@ -1,17 +1,23 @@
 #pragma once
 
 #include "store/ReadTransaction.h"
+#include "timeline/AccessibleStatementEvents.h"
 #include "timeline/CVCardTimelineCell.h"
 #include "timeline/CVTimelineData.h"
 #include "widgets/RowTableView.h"
 
+#include <QItemSelectionModel>
+
 #include <optional>
 
+class CardTimelineGeometry;
+class CVTimelineTableViewDelegate;
 class NSArrayController;
 class NSManagedObjectContext;
+class QHelpEvent;
 
 /// The body of the timeline: one row per card, drawn by a CVCardTimelineCell on an axis that all
-/// rows share.
+/// rows share. Its selection of rows is its own.
 class CVTimelineTableView : public RowTableView
 {
     Q_OBJECT
@@ -25,24 +31,72 @@ public:
 
     /// The cards of the rows, from the first on; the controller must outlive the table.
     void setCardsController(NSArrayController& cards);
+    /// Who is told what the person does; null for nobody. Must outlive the table.
+    void setTimelineDelegate(CVTimelineTableViewDelegate* delegate) { m_delegate = delegate; }
     /// Who says which statement is the selected one.
     void setTimelineCellDelegate(CVCardTimelineCellDelegate* delegate);
+    CVCardTimelineCellDelegate* timelineCellDelegate() const
+    {
+        return m_cell.timelineCellDelegate();
+    }
 
     /// The width of the timeline's column, in points.
     double timelineWidth() const { return width(); }
     void setTimelineWidth(double width);
+
+    /// The card of a row; null when the row is not there.
+    CVCard* cardAtRow(int row) const;
+    /// Absent for a card that is not listed.
+    std::optional<int> rowForCard(const CVCard* card) const;
+    /// Where the parts of a row are; absent when the row is not there. Throws NSError when the
+    /// statements cannot be read.
+    std::optional<CardTimelineGeometry> geometryOfRow(int row) const;
+
+    /// The square of the statement's dot in the table's coordinates; absent when it is nowhere: the
+    /// statement, or its card, is not on the timeline (which is logged), or it has no date. Throws
+    /// NSError when the statements cannot be read.
+    std::optional<QRectF> rectForStatement(const CVStatement& statement) const;
+
+    /// As the cell delegate says.
+    bool isStatementSelected(const CVStatement& statement) const;
+    /// The cell delegate says another one from now on. Either may be null.
+    void selectedStatementDidChange(CVStatement* previous, CVStatement* current);
+
+    /// Scrolls to a statement and tells the delegate what it hears of clicks on its dot. Does
+    /// nothing for one that is nowhere. Throws NSError when the statements cannot be read.
+    void clickStatement(CVStatement& statement, int clickCount);
+    /// Tells the delegate that what was clicked is no statement.
+    void unselectStatement();
+    /// Tells the delegate that the person gives up what is going on.
+    void cancelOperation();
+
+    std::unique_ptr<AccessibleRow> makeAccessibleRow(AccessibleRowList& list,
+                                                     const QModelIndex& index) override;
 
 protected:
     void beginRows() override;
     void endRows() override;
     void paintRow(QPainter& painter, int row, const QRect& rect, const QRect& exposed) override;
 
+    void willSelectRow(int row) override;
+
+    bool event(QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
+    void mouseDown(QMouseEvent* event, int clickCount);
+    void showToolTip(const QHelpEvent& event);
+
     NSManagedObjectContext* m_context = nullptr;
     NSArrayController* m_cards = nullptr;
+    CVTimelineTableViewDelegate* m_delegate = nullptr;
+    QItemSelectionModel m_selectionModel;
     CVCardTimelineCell m_cell;
     /// While a paint event lasts: the axis of all rows.
     std::optional<CVTimelineData> m_axis;
     /// And their one look at the file.
     std::optional<ReadTransaction> m_reading;
+    AccessibleStatementEvents m_accessibleStatementEvents{*this};
 };

@@ -1,21 +1,43 @@
 #include "widgets/RowTableView.h"
 
 #include "foundation/Log.h"
+#include "widgets/AccessibleRow.h"
 
+#include <QFocusFrame>
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScopeGuard>
+#include <QScrollArea>
+#include <QScrollBar>
 
 #include <algorithm>
+#include <cmath>
 #include <exception>
 #include <utility>
 
+namespace {
+
+/// Moves a bar as near to `position` as it goes.
+void moveTo(QScrollBar& bar, double position)
+{
+    if (std::isfinite(position)) {
+        bar.setValue(static_cast<int>(
+            std::round(std::clamp<double>(position, bar.minimum(), bar.maximum()))));
+    }
+}
+
+} // namespace
+
 RowTableView::RowTableView(QWidget* parent)
     : QWidget(parent)
+    , m_focusFrame(new QFocusFrame(this))
 {
     // Every pixel is painted, so nothing behind the table need be.
     setAttribute(Qt::WA_OpaquePaintEvent);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::MinimumExpanding);
+    setFocusPolicy(Qt::StrongFocus);
 }
 
 void RowTableView::setModel(QAbstractItemModel* model)
@@ -25,21 +47,17 @@ void RowTableView::setModel(QAbstractItemModel* model)
     }
     m_model = model;
     if (m_model) {
-        const auto rowsChanged = [this] {
-            updateHeight();
-            update();
-        };
-        connect(m_model, &QAbstractItemModel::rowsInserted, this, rowsChanged);
-        connect(m_model, &QAbstractItemModel::rowsRemoved, this, rowsChanged);
-        connect(m_model, &QAbstractItemModel::rowsMoved, this, rowsChanged);
-        connect(m_model, &QAbstractItemModel::modelReset, this, rowsChanged);
+        connect(m_model, &QAbstractItemModel::rowsInserted, this, &RowTableView::rowsDidChange);
+        connect(m_model, &QAbstractItemModel::rowsRemoved, this, &RowTableView::rowsDidChange);
+        connect(m_model, &QAbstractItemModel::rowsMoved, this, &RowTableView::rowsDidChange);
+        connect(m_model, &QAbstractItemModel::modelReset, this, &RowTableView::rowsDidChange);
         connect(m_model, &QAbstractItemModel::dataChanged, this,
                 [this](const QModelIndex& first, const QModelIndex& last) {
                     update(rectOfRow(first.row()).united(rectOfRow(last.row())));
                 });
     }
-    updateHeight();
-    update();
+    m_accessibleRowEvents.setModel(model);
+    rowsDidChange();
 }
 
 void RowTableView::setSelectionModel(QItemSelectionModel* selectionModel)
@@ -58,14 +76,14 @@ void RowTableView::setSelectionModel(QItemSelectionModel* selectionModel)
                     }
                 });
     }
+    m_accessibleRowEvents.setSelectionModel(selectionModel);
     update();
 }
 
 void RowTableView::setRowHeight(int height)
 {
     m_rowHeight = std::max(1, height);
-    updateHeight();
-    update();
+    rowsDidChange();
 }
 
 int RowTableView::numberOfRows() const
@@ -95,6 +113,65 @@ std::optional<int> RowTableView::rowAtPoint(const QPointF& point) const
     return static_cast<int>(point.y()) / m_rowHeight;
 }
 
+void RowTableView::selectRow(int row)
+{
+    if (m_selectionModel && row >= 0 && row < numberOfRows()) {
+        m_selectionModel->setCurrentIndex(m_model->index(row, 0),
+                                          QItemSelectionModel::ClearAndSelect);
+    }
+}
+
+void RowTableView::chooseRow(int row)
+{
+    if (row >= 0 && row < numberOfRows()) {
+        willSelectRow(row);
+        selectRow(row);
+    }
+}
+
+std::optional<int> RowTableView::selectedRow() const
+{
+    std::optional<int> last;
+    if (m_selectionModel) {
+        for (const auto& index : m_selectionModel->selectedIndexes()) {
+            last = std::max(last, std::optional(index.row()));
+        }
+    }
+    return last;
+}
+
+QRect RowTableView::visibleRect() const
+{
+    const auto* const scrollView = enclosingScrollView();
+    if (!scrollView) {
+        return rect();
+    }
+    return QRect(-pos(), scrollView->viewport()->size()) & rect();
+}
+
+void RowTableView::scrollRowToVisible(int row)
+{
+    const auto rect = rectOfRow(row);
+    const auto visible = visibleRect();
+    auto* const scrollView = enclosingScrollView();
+    if (rect.isEmpty() || !scrollView) {
+        return;
+    }
+    if (rect.top() < visible.top()) {
+        moveTo(*scrollView->verticalScrollBar(), rect.top());
+    } else if (rect.bottom() > visible.bottom()) {
+        moveTo(*scrollView->verticalScrollBar(), rect.bottom() + 1 - visible.height());
+    }
+}
+
+void RowTableView::scrollPoint(const QPointF& point)
+{
+    if (auto* const scrollView = enclosingScrollView()) {
+        moveTo(*scrollView->horizontalScrollBar(), point.x());
+        moveTo(*scrollView->verticalScrollBar(), point.y());
+    }
+}
+
 void RowTableView::setTiledBackground(TiledBackground background)
 {
     m_background = std::move(background);
@@ -109,6 +186,87 @@ QSize RowTableView::sizeHint() const
 QSize RowTableView::minimumSizeHint() const
 {
     return sizeHint();
+}
+
+std::unique_ptr<AccessibleRow> RowTableView::makeAccessibleRow(AccessibleRowList& list,
+                                                               const QModelIndex& index)
+{
+    return std::make_unique<AccessibleRow>(list, index);
+}
+
+void RowTableView::paintRow(QPainter& /*painter*/, int /*row*/, const QRect& /*rect*/,
+                            const QRect& /*exposed*/)
+{}
+
+bool RowTableView::event(QEvent* event)
+{
+    if (event->type() == QEvent::ParentChange && parentWidget()) {
+        // What is in view changes with the scroll area's viewport, too.
+        parentWidget()->installEventFilter(this);
+    }
+    return QWidget::event(event);
+}
+
+bool RowTableView::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Resize && watched == parentWidget()) {
+        layoutRows();
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void RowTableView::moveEvent(QMoveEvent* /*event*/)
+{
+    layoutRows();
+}
+
+void RowTableView::resizeEvent(QResizeEvent* /*event*/)
+{
+    layoutRows();
+}
+
+void RowTableView::showEvent(QShowEvent* /*event*/)
+{
+    layoutRows();
+}
+
+void RowTableView::focusInEvent(QFocusEvent* /*event*/)
+{
+    m_focusFrame->setWidget(parentWidget());
+}
+
+void RowTableView::focusOutEvent(QFocusEvent* /*event*/)
+{
+    m_focusFrame->setWidget(nullptr);
+}
+
+void RowTableView::mousePressEvent(QMouseEvent* event)
+{
+    const auto row = rowAtPoint(event->position());
+    if (event->button() != Qt::LeftButton || !row) {
+        event->ignore();
+        return;
+    }
+    chooseRow(*row);
+}
+
+void RowTableView::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    RowTableView::mousePressEvent(event);
+}
+
+void RowTableView::keyPressEvent(QKeyEvent* event)
+{
+    const auto modifiers = event->modifiers() & ~Qt::KeypadModifier;
+    const auto row = modifiers == Qt::NoModifier ? rowForKey(event->key()) : std::nullopt;
+    if (!row) {
+        event->ignore();
+        return;
+    }
+    if (row != selectedRow()) {
+        chooseRow(*row);
+    }
+    scrollRowToVisible(*row);
 }
 
 void RowTableView::paintEvent(QPaintEvent* event)
@@ -138,6 +296,50 @@ void RowTableView::paintEvent(QPaintEvent* event)
                               QString::fromUtf8(exception.what())));
         }
     }
+}
+
+QScrollArea* RowTableView::enclosingScrollView() const
+{
+    auto* const viewport = parentWidget();
+    auto* const scrollView =
+        viewport ? qobject_cast<QScrollArea*>(viewport->parentWidget()) : nullptr;
+    return scrollView && scrollView->viewport() == viewport ? scrollView : nullptr;
+}
+
+std::optional<int> RowTableView::rowForKey(int key) const
+{
+    const int last = numberOfRows() - 1;
+    if (last < 0) {
+        return std::nullopt;
+    }
+    const auto selected = selectedRow();
+    const auto movedBy = [&](int rows) {
+        return selected ? std::clamp(*selected + rows, 0, last) : 0;
+    };
+    const int page = std::max(1, visibleRect().height() / m_rowHeight);
+    switch (key) {
+    case Qt::Key_Up:
+        return movedBy(-1);
+    case Qt::Key_Down:
+        return movedBy(1);
+    case Qt::Key_PageUp:
+        return movedBy(-page);
+    case Qt::Key_PageDown:
+        return movedBy(page);
+    case Qt::Key_Home:
+        return 0;
+    case Qt::Key_End:
+        return last;
+    default:
+        return std::nullopt;
+    }
+}
+
+void RowTableView::rowsDidChange()
+{
+    updateHeight();
+    update();
+    layoutRows();
 }
 
 void RowTableView::updateHeight()

@@ -67,7 +67,7 @@ protected:
 
     QTemporaryDir home;
     Person person;
-    Corvane_AppDelegate delegate{person, directory()};
+    Corvane_AppDelegate delegate{person, UserDefaults::volatileDefaults(), directory()};
 };
 
 } // namespace
@@ -86,7 +86,8 @@ TEST_F(Corvane_AppDelegateTest, makesItsDirectoryAndAnEmptyStoreForThePersonAlon
 TEST_F(Corvane_AppDelegateTest, makesNoParentsOfItsDirectory)
 {
     const Log::Collector log;
-    Corvane_AppDelegate homeless(person, home.filePath(QStringLiteral("missing/Corvane")));
+    Corvane_AppDelegate homeless(person, UserDefaults::volatileDefaults(),
+                                 home.filePath(QStringLiteral("missing/Corvane")));
     try {
         homeless.managedObjectContext();
         FAIL() << "a context without a directory";

@@ -1,0 +1,98 @@
+// How the main window's controller keeps the list of cards and the timeline, and what is selected
+// in them, in step.
+
+#include "foundation/UserDefaults.h"
+#include "mainwindow/MainWindowController.h"
+#include "mainwindow/MainWindowHost.h"
+#include "model/CVCard.h"
+#include "model/CVStatement.h"
+#include "store/NSArrayController.h"
+#include "timeline/HorizontalScrollAnimation.h"
+
+#include "ui_MainWindow.h"
+
+#include <algorithm>
+#include <utility>
+
+std::optional<int> MainWindowController::selectedRow() const
+{
+    const auto index = m_cardsController->selectionIndex();
+    return index ? std::optional(static_cast<int>(*index)) : std::nullopt;
+}
+
+CVCard* MainWindowController::selectedCard() const
+{
+    const auto index = m_cardsController->selectionIndex();
+    return index ? static_cast<CVCard*>(m_cardsController->arrangedObjects()[*index]) : nullptr;
+}
+
+void MainWindowController::selectCardAndMakeVisible(CVCard& card)
+{
+    m_cardsController->setSelectedObjects({&card});
+    if (const auto row = m_cardsController->indexOfObject(&card)) {
+        m_ui->cardsTableView->scrollRowToVisible(static_cast<int>(*row));
+    }
+}
+
+void MainWindowController::setSelectedStatement(CVStatement* statement)
+{
+    const KeyValueChange change(*this, "selectedStatement");
+    auto* const previous = std::exchange(m_selectedStatement, statement);
+    if (m_ui) {
+        m_ui->timelineTableView->selectedStatementDidChange(previous, statement);
+    }
+}
+
+void MainWindowController::makeStatementVisible(const CVStatement& statement)
+{
+    const auto& table = *m_ui->timelineTableView;
+    const auto rect = table.rectForStatement(statement);
+    const QRectF visible = table.visibleRect();
+    if (rect && !visible.contains(*rect)) {
+        m_scrollAnimation->scrollTo(
+            std::max(0.0, rect->x() - (visible.width() - rect->width()) * 0.5));
+    }
+}
+
+void MainWindowController::cardTableViewDidSelectCard(CVCardTableView& /*table*/, CVCard& /*card*/,
+                                                      int index)
+{
+    m_ui->timelineTableView->selectRow(index);
+}
+
+void MainWindowController::timelineTableViewDidSelectTimelineForCard(CVTimelineTableView& /*table*/,
+                                                                     CVCard& /*card*/, int index)
+{
+    m_ui->cardsTableView->selectRow(index);
+}
+
+void MainWindowController::timelineTableViewDidSelectStatement(CVTimelineTableView& table,
+                                                               CVStatement* statement,
+                                                               const QPointF& /*point*/,
+                                                               int /*clickCount*/)
+{
+    setSelectedStatement(statement);
+    table.update();
+}
+
+void MainWindowController::timelineTableViewDidCancelOperation(CVTimelineTableView& /*table*/) {}
+
+bool MainWindowController::timelineCellSelectStatement(const CVCardTimelineCell& /*cell*/,
+                                                       const CVStatement& statement) const
+{
+    return &statement == m_selectedStatement;
+}
+
+void MainWindowController::selectionIndexDidChange()
+{
+    const bool isFirst = !m_wasSelectionRestored;
+    m_wasSelectionRestored = true;
+    if (isFirst) {
+        const auto stored = m_host.userDefaults().integerForKey(u"selectedCardIndex");
+        if (stored >= 0) {
+            m_cardsController->setSelectionIndex(static_cast<std::size_t>(stored));
+        }
+        tickleCanScale();
+    }
+    const KeyValueChange change(*this, "canAddStatement");
+}

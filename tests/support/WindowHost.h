@@ -1,0 +1,20 @@
+#pragma once
+
+#include "foundation/UserDefaults.h"
+#include "mainwindow/MainWindowHost.h"
+
+/// Lends a context and settings to a main window.
+class WindowHost : public MainWindowHost
+{
+public:
+    explicit WindowHost(NSManagedObjectContext& context)
+        : m_context(context)
+    {}
+    NSManagedObjectContext* managedObjectContext() override { return &m_context; }
+    UserDefaults& userDefaults() override { return m_userDefaults; }
+    bool mayTerminate() override { return true; }
+
+private:
+    NSManagedObjectContext& m_context;
+    UserDefaults m_userDefaults = UserDefaults::volatileDefaults();
+};
