@@ -4,6 +4,7 @@
 #include "app/Corvane_AppDelegate.h"
 #include "app/LogPresenter.h"
 #include "mainwindow/MainWindowController.h"
+#include "timeline/CVSyncScrollView.h"
 
 #include "bench/SideBySide.h"
 #include "bench/StoreGenerator.h"
@@ -20,11 +21,13 @@
 #include <benchmark/benchmark.h>
 
 #include <cstdlib>
+#include <functional>
 #include <iostream>
 #include <map>
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -56,7 +59,8 @@ public:
         QCoreApplication::processEvents();
     }
 
-    QMainWindow& window() { return m_delegate.mainWindowController()->window(); }
+    MainWindowController& controller() { return *m_delegate.mainWindowController(); }
+    QMainWindow& window() { return controller().window(); }
 
 private:
     LogPresenter m_alerts;
@@ -79,6 +83,51 @@ void paintWindow(benchmark::State& state, const StoreGenerator::Size& size, int 
     image.setDevicePixelRatio(devicePixelRatio);
     SideBySide::run(
         state, [&] { paint(program.window(), image); }, [&] { paint(empty, image); });
+}
+
+/// Paints at once what is due.
+void paintUpdates(QWidget& window)
+{
+    QEvent due(QEvent::UpdateRequest);
+    QCoreApplication::sendEvent(&window, &due);
+}
+
+using Step = std::function<void(MainWindowController& controller, int number)>;
+
+/// A step of the person's, to the painted window, beside painting an empty one.
+void step(benchmark::State& state, const StoreGenerator::Size& size, const Step& take)
+{
+    Program program(directoryOfStore(size));
+    program.controller().setScale(4.0);
+    paintUpdates(program.window());
+    QMainWindow empty;
+    empty.resize(windowSize);
+    empty.show();
+    QCoreApplication::processEvents();
+    int number = 0;
+    SideBySide::run(
+        state,
+        [&] {
+            take(program.controller(), ++number);
+            paintUpdates(program.window());
+        },
+        [&] {
+            empty.update();
+            paintUpdates(empty);
+        });
+}
+
+void zoom(MainWindowController& controller, int number)
+{
+    controller.setScale(number % 2 == 0 ? 4.0 : 4.2);
+}
+
+void scroll(MainWindowController& controller, int number)
+{
+    auto* const timeline =
+        controller.window().findChild<CVSyncScrollView*>(QStringLiteral("timelineScrollView"));
+    const int distance = 200 + (number % 2) * 40;
+    timeline->setContentOrigin({distance, distance});
 }
 
 // Started as a child with one of these arguments and, but for the first, a directory, the benchmark
@@ -208,6 +257,14 @@ void registerBenchmarks()
             benchmark::RegisterBenchmark(
                 ("paintWindow/" + name + '/' + std::to_string(ratio) + 'x').c_str(),
                 [size, ratio](benchmark::State& state) { paintWindow(state, size, ratio); })
+                ->UseManualTime()
+                ->Unit(benchmark::kMillisecond);
+        }
+        for (const auto& [what, take] : std::initializer_list<std::pair<const char*, Step>>{
+                 {"zoomStep/", zoom}, {"scrollStep/", scroll}}) {
+            benchmark::RegisterBenchmark(
+                (what + name).c_str(),
+                [size, take = take](benchmark::State& state) { step(state, size, take); })
                 ->UseManualTime()
                 ->Unit(benchmark::kMillisecond);
         }

@@ -193,6 +193,8 @@ void MainWindowController::windowDidLoad()
     setUpTotals();
     showContext();
     restoreWindowFrame();
+    // Chosen here, so that no ring greets people who have not touched a key yet.
+    m_ui->cardsTableView->setFocus(Qt::OtherFocusReason);
     m_notifications.enqueue(restoreTimelineGeometryNotification);
 }
 

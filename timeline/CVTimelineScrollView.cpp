@@ -19,8 +19,8 @@ CVTimelineScrollView::CVTimelineScrollView(QWidget* parent)
 {
     // Time runs from left to right wherever the reader's text does not.
     setLayoutDirection(Qt::LeftToRight);
-    // The table is a little narrower than the view: beside it, and under the scroll bars, the colour
-    // of its cloth goes on.
+    // The table is a little narrower than the view: beside it, and under the scroll bars, the
+    // colour of its cloth goes on.
     QPalette cloth = palette();
     cloth.setColor(QPalette::Window, clothColor);
     setPalette(cloth);

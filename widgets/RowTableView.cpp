@@ -230,18 +230,32 @@ void RowTableView::showEvent(QShowEvent* /*event*/)
     layoutRows();
 }
 
-void RowTableView::focusInEvent(QFocusEvent* /*event*/)
+void RowTableView::focusInEvent(QFocusEvent* event)
 {
-    m_focusFrame->setWidget(parentWidget());
+    const auto reason = event->reason();
+    if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason) {
+        showFocusFrame(true);
+    }
 }
 
-void RowTableView::focusOutEvent(QFocusEvent* /*event*/)
+void RowTableView::focusOutEvent(QFocusEvent* event)
 {
-    m_focusFrame->setWidget(nullptr);
+    const auto reason = event->reason();
+    const bool comesBack = reason == Qt::ActiveWindowFocusReason ||
+                           reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason;
+    if (!comesBack) {
+        showFocusFrame(false);
+    }
+}
+
+void RowTableView::showFocusFrame(bool isShown)
+{
+    m_focusFrame->setWidget(isShown ? parentWidget() : nullptr);
 }
 
 void RowTableView::mousePressEvent(QMouseEvent* event)
 {
+    showFocusFrame(false);
     const auto row = rowAtPoint(event->position());
     if (event->button() != Qt::LeftButton || !row) {
         event->ignore();
@@ -263,6 +277,7 @@ void RowTableView::keyPressEvent(QKeyEvent* event)
         event->ignore();
         return;
     }
+    showFocusFrame(hasFocus());
     if (row != selectedRow()) {
         chooseRow(*row);
     }

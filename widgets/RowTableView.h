@@ -104,13 +104,15 @@ private:
     QScrollArea* enclosingScrollView() const;
     void rowsDidChange();
     void updateHeight();
+    void showFocusFrame(bool isShown);
     /// The row that a key leads to from the selected one; absent for other keys.
     std::optional<int> rowForKey(int key) const;
 
     QPointer<QAbstractItemModel> m_model;
     QPointer<QItemSelectionModel> m_selectionModel;
     TiledBackground m_background;
-    /// Around what is in view of the table, while it has the focus.
+    /// Around what is in view of the table, while it has the focus and the person uses the
+    /// keyboard.
     QFocusFrame* m_focusFrame;
     int m_rowHeight = 20;
     AccessibleRowEvents m_accessibleRowEvents{*this};
