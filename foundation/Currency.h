@@ -18,4 +18,17 @@ QStringList isoCodes();
 /// a currency.
 bool isWellFormed(QStringView code);
 
+/// What the currency is called where the person is ("British Pound"); the code itself when no name
+/// is known for it.
+QString name(const QString& code);
+
+/// How many decimals amounts of the currency have; without a code, of the locale's currency. 2 when
+/// nothing is known of the currency.
+int decimals(const std::optional<QString>& code);
+
+/// Whether a text that was found beside an amount says in which currency it is: an ISO code in
+/// either case, a sign that the locale uses for some currency ("kr"), or a currency sign, with up
+/// to three letters ("US$", "£").
+bool isSignOrCode(const QString& text);
+
 } // namespace Currency

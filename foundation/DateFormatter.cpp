@@ -4,6 +4,7 @@
 #include "foundation/KeptForSettings.h"
 
 #include <QDate>
+#include <unicode/dtptngen.h>
 #include <unicode/smpdtfmt.h>
 
 #include <array>
@@ -37,6 +38,22 @@ Format makeFormat(const RegionalSettings& settings, const Pattern& pattern)
             icu::TimeZone::createTimeZone(icu::UnicodeString::fromUTF8(settings.timeZone())));
     }
     return format;
+}
+
+/// The fields themselves where ICU has no pattern for them.
+QString patternOfFields(const RegionalSettings& settings, const QString& fields)
+{
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::Locale locale(settings.datesLocale().c_str());
+    const std::unique_ptr<icu::DateTimePatternGenerator> generator(
+        icu::DateTimePatternGenerator::createInstance(locale, status));
+    if (U_FAILURE(status) || !generator) {
+        return fields;
+    }
+    const icu::UnicodeString skeleton(fields.utf16(), static_cast<int32_t>(fields.size()));
+    const auto pattern = generator->getBestPattern(skeleton, status);
+    return U_SUCCESS(status) ? QStringView(pattern.getBuffer(), pattern.length()).toString()
+                             : fields;
 }
 
 QString plainText(Instant date)
@@ -79,4 +96,12 @@ QString DateFormatter::shortText(Instant date)
 QString DateFormatter::text(Instant date, const QString& pattern)
 {
     return textWithFormat(date, pattern);
+}
+
+QString DateFormatter::textOfFields(Instant date, const QString& fields)
+{
+    static KeptForSettings<QString, QString> patterns;
+    return text(date, patterns.get(fields, [&](const RegionalSettings& settings) {
+        return patternOfFields(settings, fields);
+    }));
 }

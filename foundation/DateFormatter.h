@@ -15,4 +15,8 @@ QString shortText(Instant date);
 /// The date in a pattern of Unicode date field letters, such as "YYYY" or "MMMM".
 QString text(Instant date, const QString& pattern);
 
+/// The date with these fields, Unicode date field letters such as "yMMMM", in the order and with
+/// the words around them that the locale has for them ("July 2013").
+QString textOfFields(Instant date, const QString& fields);
+
 } // namespace DateFormatter

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QtGlobal> // Qt 6.4's moc does not understand <compare> without it.
+
 #include <compare>
 
 /// A point in absolute time, in seconds since 1970-01-01T00:00:00Z, fractions included.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QtGlobal> // Qt 6.4's moc does not understand <compare> without it.
+
 #include <array>
 #include <compare>
 #include <cstdint>

@@ -4,6 +4,7 @@
 #include "foundation/KeptForSettings.h"
 
 #include <QStringBuilder>
+#include <unicode/nounit.h>
 #include <unicode/numberformatter.h>
 
 #include <algorithm>
@@ -22,10 +23,12 @@ enum class Style
 {
     Currency,
     TwoDecimals,
-    AllDecimals
+    AllDecimals,
+    Amount,
+    Rate
 };
 
-/// `code` counts for a currency only, and is well-formed.
+/// `code` counts for currencies and amounts only; that of a currency is well-formed.
 LocalizedNumberFormatter makeFormatter(const RegionalSettings& settings, Style style,
                                        const QString& code)
 {
@@ -38,6 +41,12 @@ LocalizedNumberFormatter makeFormatter(const RegionalSettings& settings, Style s
     }
     case Style::TwoDecimals:
         return formatter.precision(Precision::fixedFraction(2));
+    case Style::Amount:
+        return formatter.precision(Precision::minFraction(Currency::decimals(code)));
+    case Style::Rate:
+        return formatter.precision(Precision::unlimited())
+            .unit(icu::NoUnit::percent())
+            .grouping(UNUM_GROUPING_OFF);
     case Style::AllDecimals:
         break;
     }
@@ -91,6 +100,17 @@ QString NumberFormatter::currencyText(std::string_view decimal, const std::optio
     }
     const auto number = textInStyle(decimal, Style::TwoDecimals);
     return usedCode.isEmpty() ? number : QString(number % u' ' % usedCode);
+}
+
+QString NumberFormatter::amountText(std::string_view decimal, const std::optional<QString>& code)
+{
+    return textInStyle(decimal, Style::Amount,
+                       code ? *code : Currency::localCode().value_or(QString()));
+}
+
+QString NumberFormatter::rateText(std::string_view percentage)
+{
+    return textInStyle(percentage, Style::Rate);
 }
 
 QString NumberFormatter::numberText(std::string_view decimal)

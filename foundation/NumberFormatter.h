@@ -16,6 +16,14 @@ namespace NumberFormatter {
 /// number: "1,234.50 GOLD"; an empty one is left out.
 QString currencyText(std::string_view decimal, const std::optional<QString>& code);
 
+/// The amount as people type it: without a currency sign, with the number of decimals that this
+/// currency has (as in currencyText()), or more if the amount has more.
+QString amountText(std::string_view decimal, const std::optional<QString>& code);
+
+/// The percentage as people type it: with all its decimals and the locale's percent sign, without
+/// grouping marks. 19.9 is "19.9%".
+QString rateText(std::string_view percentage);
+
 /// The number with all its decimals, but for zeros at their end.
 QString numberText(std::string_view decimal);
 

@@ -100,6 +100,36 @@ TEST(CurrencyTest, KnowsTheCurrenciesAndTheLocalOne)
     EXPECT_EQ(NumberFormatter::currencyText("1234.5", u"£€$"_qs), u"1.234,50 £€$"_qs);
 }
 
+TEST(NumberFormatterTest, WritesAmountsAndRatesAsTheyAreTyped)
+{
+    struct Row
+    {
+        const char* locale;
+        const char* pounds;
+        const char* yen;
+        const char* dinars;
+        const char* rate;
+    };
+    for (const auto& row : {Row{"en_GB", "1,234.50", "1,234.5", "1,234.500", "1234.5%"},
+                            Row{"de_DE", "1.234,50", "1.234,5", "1.234,500", "1234,5~%"},
+                            Row{"tr_TR", "1.234,50", "1.234,5", "1.234,500", "%1234,5"}}) {
+        const ScopedRegionalSettings regional(at(row.locale));
+        EXPECT_EQ(visible(NumberFormatter::amountText("1234.5", u"GBP"_qs)), row.pounds);
+        EXPECT_EQ(visible(NumberFormatter::amountText("1234.5", u"JPY"_qs)), row.yen);
+        EXPECT_EQ(visible(NumberFormatter::amountText("1234.5", u"kwd"_qs)), row.dinars);
+        EXPECT_EQ(visible(NumberFormatter::rateText("1234.5")), row.rate);
+    }
+}
+
+TEST(CurrencyTest, NamesCurrenciesInTheLanguageOfThePerson)
+{
+    const ScopedRegionalSettings regional(at("de_DE"));
+    EXPECT_EQ(Currency::name(u"GBP"_qs), u"Britisches Pfund"_qs);
+    EXPECT_EQ(Currency::name(u"XQX"_qs), u"XQX"_qs);
+    EXPECT_EQ(Currency::name(u"GOLD"_qs), u"GOLD"_qs);
+    EXPECT_EQ(Currency::name(u""_qs), u""_qs);
+}
+
 TEST(DateFormatterTest, WritesDatesAsTheLocaleDoes)
 {
     const std::vector<std::pair<const char*, std::string>> rows = {{"en_GB", "15/07/2013 Jul"},
@@ -113,6 +143,25 @@ TEST(DateFormatterTest, WritesDatesAsTheLocaleDoes)
         const auto date = utc(2013, 7, 14, 23, 30);
         const auto month = DateFormatter::text(date, u"MMM"_qs);
         EXPECT_EQ(visible(DateFormatter::shortText(date) + u' ' + month), texts) << locale;
+    }
+}
+
+TEST(DateFormatterTest, PutsFieldsInTheOrderAndTheWordsOfTheLocale)
+{
+    const auto date = utc(2013, 7, 15, 12);
+    const std::vector<std::pair<const char*, const char*>> rows = {
+        {"en_GB", "July 2013 | Monday, 15 July 2013"},
+        {"en_US", "July 2013 | Monday, July 15, 2013"},
+        {"de_DE", "Juli 2013 | Montag, 15. Juli 2013"},
+        {"es_ES", "julio de 2013 | lunes, 15 de julio de 2013"},
+        {"ja_JP", "2013年7月 | 2013年7月15日月曜日"},
+    };
+    for (const auto& [locale, texts] : rows) {
+        const ScopedRegionalSettings regional(at(locale));
+        EXPECT_EQ(visible(DateFormatter::textOfFields(date, u"yMMMM"_qs) + u" | " +
+                          DateFormatter::textOfFields(date, u"yMMMMEEEEd"_qs)),
+                  texts)
+            << locale;
     }
 }
 
