@@ -13,9 +13,14 @@ RowTableView* AccessibleRow::table() const
     return m_list.table();
 }
 
+bool AccessibleRow::isListed() const
+{
+    return m_index.isValid() && table() && table()->model() == m_index.model();
+}
+
 bool AccessibleRow::isValid() const
 {
-    return m_index.isValid() && table();
+    return isListed();
 }
 
 QAccessibleInterface* AccessibleRow::parent() const

@@ -19,7 +19,9 @@ public:
     /// Negative when the row is gone.
     int row() const { return m_index.row(); }
 
-    /// Whether the record is there still.
+    /// Whether the table has the row still.
+    bool isListed() const;
+    /// Whether the row is listed, and its record not deleted either.
     bool isValid() const override;
     QAccessibleInterface* parent() const override;
     QString text(QAccessible::Text kind) const override;

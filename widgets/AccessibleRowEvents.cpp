@@ -9,8 +9,6 @@
 #include <QItemSelection>
 #include <QItemSelectionModel>
 
-#include <utility>
-
 AccessibleRowEvents::AccessibleRowEvents(RowTableView& table)
     : m_table(table)
 {
@@ -31,15 +29,18 @@ void AccessibleRowEvents::setModel(QAbstractItemModel* model)
             [this](const QModelIndex&, int first, int last) { rowsWillDisappear(first, last); });
         connect(m_model, &QAbstractItemModel::rowsRemoved, this,
                 &AccessibleRowEvents::rowsDidDisappear);
-        connect(m_model, &QAbstractItemModel::rowsMoved, this, &AccessibleRowEvents::rowsAreOthers);
+        // Of rows that move nothing is told: Qt 6.4 announces a new order by signals that clients
+        // refuse as malformed, and they ask for places afresh anyway.
+        connect(m_model, &QAbstractItemModel::modelAboutToBeReset, this,
+                [this] { rowsWillDisappear(0, m_table.numberOfRows() - 1); });
         connect(m_model, &QAbstractItemModel::modelReset, this,
-                &AccessibleRowEvents::rowsAreOthers);
+                &AccessibleRowEvents::allRowsAreOthers);
         connect(m_model, &QAbstractItemModel::dataChanged, this,
                 [this](const QModelIndex& first, const QModelIndex& last) {
                     namesDidChange(first.row(), last.row());
                 });
     }
-    rowsAreOthers();
+    allRowsAreOthers();
 }
 
 void AccessibleRowEvents::setSelectionModel(QItemSelectionModel* selectionModel)
@@ -79,20 +80,18 @@ AccessibleRowList* AccessibleRowEvents::list() const
 
 void AccessibleRowEvents::rowsDidAppear(int first, int last)
 {
-    if (const auto* const rows = list()) {
-        for (int row = first; row <= last; ++row) {
-            rows->row(row)->announce(QAccessible::ObjectCreated);
-        }
+    const auto* const rows = list();
+    for (int row = first; rows && row <= last; ++row) {
+        rows->row(row)->announce(QAccessible::ObjectCreated);
     }
 }
 
 void AccessibleRowEvents::rowsWillDisappear(int first, int last)
 {
-    if (const auto* const rows = list()) {
-        for (int row = first; row <= last; ++row) {
-            if (auto* const item = rows->existingRow(row)) {
-                item->announceRemoval();
-            }
+    const auto* const rows = list();
+    for (int row = first; rows && row <= last; ++row) {
+        if (auto* const item = rows->existingRow(row)) {
+            item->announceRemoval();
         }
     }
 }
@@ -104,20 +103,13 @@ void AccessibleRowEvents::rowsDidDisappear()
     }
 }
 
-void AccessibleRowEvents::rowsAreOthers()
+void AccessibleRowEvents::allRowsAreOthers()
 {
     rowsDidDisappear();
-    // Once for all moves of a new order: each announcement names all rows.
-    if (AccessibleAnnouncements::areHeard() && !std::exchange(m_isOrderToBeAnnounced, true)) {
-        QMetaObject::invokeMethod(this, &AccessibleRowEvents::announceOrder, Qt::QueuedConnection);
+    // Before the table is seen, nobody knows of any other rows.
+    if (m_table.isVisible()) {
+        rowsDidAppear(0, m_table.numberOfRows() - 1);
     }
-}
-
-void AccessibleRowEvents::announceOrder()
-{
-    m_isOrderToBeAnnounced = false;
-    QAccessibleEvent event(&m_table, QAccessible::ObjectReorder);
-    AccessibleAnnouncements::make(event);
 }
 
 void AccessibleRowEvents::namesDidChange(int first, int last)

@@ -10,7 +10,7 @@ class QItemSelectionModel;
 class RowTableView;
 
 /// Tells assistive technology what happens to the rows of a table, as long as any listens: which
-/// come, go, move, are renamed, selected, or get the keyboard.
+/// come, go, are renamed, selected, or get the keyboard.
 class AccessibleRowEvents : public QObject
 {
     Q_OBJECT
@@ -35,8 +35,7 @@ private:
     void rowsDidAppear(int first, int last);
     void rowsWillDisappear(int first, int last);
     void rowsDidDisappear();
-    void rowsAreOthers();
-    void announceOrder();
+    void allRowsAreOthers();
     void namesDidChange(int first, int last);
     void selectionDidChange(const QItemSelection& selected, const QItemSelection& deselected);
     void announceFocus();
@@ -44,5 +43,4 @@ private:
     RowTableView& m_table;
     QPointer<QAbstractItemModel> m_model;
     QPointer<QItemSelectionModel> m_selectionModel;
-    bool m_isOrderToBeAnnounced = false;
 };

@@ -65,7 +65,7 @@ AccessibleRow* AccessibleRowList::existingRow(int row) const
 
 void AccessibleRowList::removeStaleRows()
 {
-    m_rows.removeIf([](const AccessibleRow& row) { return row.row() < 0; });
+    m_rows.removeIf([](const AccessibleRow& row) { return !row.isListed(); });
 }
 
 int AccessibleRowList::childCount() const
