@@ -43,13 +43,12 @@ std::int64_t countFromFormula(double payments)
 /// When payments end that go on for ever, or for longer than any calendar reaches.
 constexpr Instant never(std::numeric_limits<double>::infinity());
 
-/// When the payments of a statement end; absent when that cannot be told without its date.
-std::optional<Instant> clearingDate(const CVStatement& statement, std::int64_t payments)
+/// When payments reckoned from a date end; absent when that cannot be told without one.
+std::optional<Instant> clearingDate(std::int64_t payments, const std::optional<Instant>& date)
 {
     if (payments == CVNeverClears) {
         return never;
     }
-    const auto date = statement.date();
     return date
                ? std::optional(Calculations::monthsSince(*date, static_cast<std::int32_t>(payments))
                                    .value_or(never))
@@ -92,23 +91,27 @@ std::int64_t numberOfPaymentsToClear(const CVStatement& statement)
                                    doubleValue(statement.payment()));
 }
 
-QString formattedForecast(const CVStatement& statement)
+QString formattedForecast(std::int64_t payments, const std::optional<Instant>& date)
 {
-    const auto payments = numberOfPaymentsToClear(statement);
-    const auto date = clearingDate(statement, payments);
-    if (payments == 0 || !date) {
+    const auto end = clearingDate(payments, date);
+    if (payments == 0 || !end) {
         return {};
     }
-    return *date == never ? QCoreApplication::translate("DebtForecast", "never")
-                          : QCoreApplication::translate("DebtForecast", "%1 m ⟶ %2")
-                                .arg(QString::number(payments), DateFormatter::shortText(*date));
+    return *end == never ? QCoreApplication::translate("DebtForecast", "never")
+                         : QCoreApplication::translate("DebtForecast", "%1 m ⟶ %2")
+                               .arg(QString::number(payments), DateFormatter::shortText(*end));
+}
+
+QString formattedForecast(const CVStatement& statement)
+{
+    return formattedForecast(numberOfPaymentsToClear(statement), statement.date());
 }
 
 QString formattedDebtFreeDate(NSManagedObjectContext& context)
 {
     std::optional<Instant> latest;
     for (const auto* const statement : CVManagecObjectContextInternal::lastStatements(context)) {
-        const auto date = clearingDate(*statement, numberOfPaymentsToClear(*statement));
+        const auto date = clearingDate(numberOfPaymentsToClear(*statement), statement->date());
         if (date && (!latest || *date > *latest)) {
             latest = date;
         }

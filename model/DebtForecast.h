@@ -1,8 +1,11 @@
 #pragma once
 
+#include "foundation/Instant.h"
+
 #include <QString>
 
 #include <cstdint>
+#include <optional>
 
 class CVStatement;
 class NSManagedObjectContext;
@@ -25,8 +28,12 @@ std::int64_t numberOfPaymentsToClear(double balance, double annualRate, double p
 /// The same for the numbers of a statement; absent ones count as 0.
 std::int64_t numberOfPaymentsToClear(const CVStatement& statement);
 
-/// What those numbers mean to a person: "4 m ⟶ 15/07/2013"; "never", also when it takes longer than
-/// calendars reach; or nothing when there is nothing to forecast, or no date to reckon from.
+/// What a number of monthly payments, reckoned from a date, means to a person: "4 m ⟶ 15/07/2013";
+/// "never", also when it takes longer than calendars reach; or nothing when there is nothing to
+/// forecast, or no date to reckon from.
+QString formattedForecast(std::int64_t payments, const std::optional<Instant>& date);
+
+/// The same for the numbers of a statement and its date.
 QString formattedForecast(const CVStatement& statement);
 
 /// "Debt-free 15/07/2013": the day on which the last of the cards is cleared, from each card's last

@@ -1,0 +1,235 @@
+#include "editors/CVStatementPopoverController.h"
+
+#include "editors/TypedTextGuard.h"
+#include "foundation/Clock.h"
+#include "model/CVCard.h"
+#include "model/CVStatement.h"
+#include "model/Calculations.h"
+#include "model/DebtForecast.h"
+#include "store/NSManagedObjectContext.h"
+
+#include "ui_CVStatementPopover.h"
+
+#include <string>
+
+CVStatementPopoverController::CVStatementPopoverController()
+    : m_ui(std::make_unique<Ui::CVStatementPopover>())
+{
+    m_ui->setupUi(&view());
+    awakeFromNib();
+}
+
+CVStatementPopoverController::~CVStatementPopoverController() = default;
+
+void CVStatementPopoverController::awakeFromNib()
+{
+    setUpForm({m_ui->okButton,
+               m_ui->cancelButton,
+               m_ui->line,
+               {&m_ui->balanceField->guard(), &m_ui->limitField->guard(),
+                &m_ui->paymentField->guard(), &m_ui->rateField->guard()}},
+              [this] { addOrUpdateStatement(); });
+    for (const std::string_view keyPath : {"statement.date", "date", "originalStatement"}) {
+        observeOwn(keyPath, [this, keyPath] { observeValueForKeyPath(keyPath); });
+    }
+    bindFields();
+    triggerRefresh();
+}
+
+/// Ties each field to the value that it shows, both ways.
+void CVStatementPopoverController::bindFields()
+{
+    connect(m_ui->dateField, &OASteppableTextField::objectValueDidChange, this,
+            [this] { setDate(m_ui->dateField->date()); });
+    observeOwn("date", [this] {
+        if (m_ui->dateField->date() != m_date) {
+            m_ui->dateField->setDate(m_date);
+        }
+    });
+
+    bindAmount(*m_ui->balanceField, "statement.balance");
+    bindAmount(*m_ui->limitField, "statement.limit");
+    bindAmount(*m_ui->paymentField, "statement.payment");
+
+    connect(m_ui->rateField, &OASteppableTextField::objectValueDidChange, this, [this] {
+        if (m_statement && m_ui->rateField->isReadable()) {
+            m_statement->setAnnualPercentageRate(m_ui->rateField->rate());
+        }
+        updateLine();
+    });
+    observeOwn("statement.annualPercentageRate", [this] {
+        m_ui->rateField->setRate(m_statement ? m_statement->annualPercentageRate() : std::nullopt);
+        updateLine();
+    });
+
+    observeOwn("canAddStatementForDate",
+               [this] { m_ui->okButton->setEnabled(canAddStatementForDate()); });
+}
+
+void CVStatementPopoverController::bindAmount(AmountField& field, std::string_view keyPath)
+{
+    const auto key = keyPath.substr(keyPath.find('.') + 1);
+    connect(&field, &OASteppableTextField::objectValueDidChange, this, [this, &field, key] {
+        if (m_statement && field.isReadable()) {
+            m_statement->setValueForKey(field.objectValue(), key);
+        }
+        updateLine();
+    });
+    observeOwn(keyPath, [this, &field, key] {
+        const auto value = m_statement ? m_statement->valueForKey(key) : PropertyValue();
+        field.setNumber(propertyValueAs<NSDecimalNumber>(value));
+        updateLine();
+    });
+    observeOwn("card.ccy",
+               [this, &field] { field.setCurrency(m_card ? m_card->ccy() : std::nullopt); });
+}
+
+OADatePickerTextField& CVStatementPopoverController::dateField() const
+{
+    return *m_ui->dateField;
+}
+
+void CVStatementPopoverController::setCard(CVCard* card)
+{
+    const KeyValueChange change(*this, "card");
+    m_card = card;
+    // What the card has decides about the date, and may be undone while the form is open.
+    disconnect(m_cardChanges);
+    if (card) {
+        m_cardChanges =
+            connect(&card->managedObjectContext(), &NSManagedObjectContext::objectsDidChange, this,
+                    &CVStatementPopoverController::triggerRefresh);
+    }
+}
+
+void CVStatementPopoverController::setStatement(CVStatement* statement)
+{
+    const KeyValueChange change(*this, "statement");
+    m_statement = statement;
+}
+
+void CVStatementPopoverController::setOriginalStatement(CVStatement* statement)
+{
+    const KeyValueChange change(*this, "originalStatement");
+    m_originalStatement = statement;
+}
+
+void CVStatementPopoverController::setDate(const std::optional<Instant>& date)
+{
+    const KeyValueChange change(*this, "date");
+    m_date = date;
+}
+
+bool CVStatementPopoverController::canAddStatementForDate() const
+{
+    if (!m_date || Calculations::future(*m_date) || isTargetGone()) {
+        return false;
+    }
+    const auto* const clash = m_card ? m_card->statementForDate(*m_date) : nullptr;
+    return !clash || clash == m_originalStatement;
+}
+
+void CVStatementPopoverController::triggerRefresh()
+{
+    const KeyValueChange change(*this, "canAddStatementForDate");
+}
+
+QString CVStatementPopoverController::okButtonTitle() const
+{
+    return m_originalStatement ? tr("Update") : tr("Add");
+}
+
+CVStatement& CVStatementPopoverController::createNewStatement()
+{
+    auto& newStatement = static_cast<CVStatement&>(insertIntoContext("Statement"));
+    setStatement(&newStatement);
+    setOriginalStatement(nullptr);
+    newStatement.setDate(Clock::now());
+    setDate(newStatement.date());
+    copyFromLastStatement(newStatement);
+    context()->processPendingChanges();
+    return newStatement;
+}
+
+void CVStatementPopoverController::copyFromLastStatement(CVStatement& newStatement) const
+{
+    const auto* const last = m_card ? m_card->lastStatement() : nullptr;
+    if (!last) {
+        return;
+    }
+    newStatement.setLimit(last->limit());
+    newStatement.setPayment(last->payment());
+    newStatement.setMonthlyPercentageRate(last->monthlyPercentageRate());
+    // The monthly rate gave it a yearly one that is off by a rounding; this is the exact one.
+    newStatement.setAnnualPercentageRate(last->annualPercentageRate());
+}
+
+void CVStatementPopoverController::addOrUpdateStatement()
+{
+    if (!commitEditing() || !m_date) {
+        return;
+    }
+    if (isTargetGone()) {
+        cancelOperation();
+        return;
+    }
+    if (m_statement) {
+        m_statement->setDate(m_date);
+    }
+    setIsDirty(true);
+    closePopover();
+}
+
+bool CVStatementPopoverController::isTargetGone() const
+{
+    return (m_card && m_card->isDeleted()) ||
+           (m_originalStatement && m_originalStatement->isDeleted());
+}
+
+/// What the numbers mean as they stand in the form, with the date that is typed there.
+QString CVStatementPopoverController::lineText() const
+{
+    const bool isReadable = m_ui->balanceField->isReadable() && m_ui->paymentField->isReadable() &&
+                            m_ui->rateField->isReadable();
+    if (!m_statement || !isReadable) {
+        return {};
+    }
+    return DebtForecast::formattedForecast(DebtForecast::numberOfPaymentsToClear(*m_statement),
+                                           m_date);
+}
+
+void CVStatementPopoverController::observeValueForKeyPath(std::string_view keyPath)
+{
+    if (keyPath == "statement.date") {
+        setDate(m_statement ? m_statement->date() : std::nullopt);
+        triggerRefresh();
+    } else if (keyPath == "date") {
+        triggerRefresh();
+        updateLine();
+    } else if (keyPath == "originalStatement") {
+        triggerRefresh();
+    }
+}
+
+std::vector<std::string_view>
+CVStatementPopoverController::keyPathsForValuesAffectingValueForKey(std::string_view key) const
+{
+    static constexpr KeyDependency dependencies[] = {{"okButtonTitle", "originalStatement"}};
+    auto paths = CVPopoverController::keyPathsForValuesAffectingValueForKey(key);
+    addDependencies(paths, key, dependencies);
+    return paths;
+}
+
+KeyValueObservable* CVStatementPopoverController::observableValueForKey(std::string_view key)
+{
+    if (key == "card") {
+        return m_card;
+    }
+    if (key == "statement") {
+        return m_statement;
+    }
+    if (key == "originalStatement") {
+        return m_originalStatement;
+    }
+    return CVPopoverController::observableValueForKey(key);
+}

@@ -1,0 +1,117 @@
+#include "editors/NumberField.h"
+
+#include "editors/TypedTextGuard.h"
+#include "foundation/OASteppableTextFieldFormatter.h"
+
+#include <QFocusEvent>
+
+#include <utility>
+
+namespace {
+
+class NumberTextFormatter : public OATextFieldFormatter
+{
+public:
+    NumberTextFormatter(NumberField::Parser parser, NumberField::Writer writer)
+        : m_parser(parser)
+        , m_writer(std::move(writer))
+    {}
+
+    QString stringForObjectValue(const PropertyValue& value) const override
+    {
+        const auto number = propertyValueAs<NSDecimalNumber>(value);
+        return number ? m_writer(number->toPlainText()) : QString();
+    }
+
+    PropertyValue objectValueForString(const QString& text) const override
+    {
+        const auto plain = m_parser(text);
+        return plain ? propertyValue(NSDecimalNumber::fromText(*plain)) : PropertyValue();
+    }
+
+    std::optional<PropertyValue> steppedValue(const PropertyValue& value, Step step) const override
+    {
+        using namespace OASteppableTextFieldFormatter;
+        const auto number = propertyValueAs<NSDecimalNumber>(value);
+        switch (step) {
+        case Step::Up:
+            return stepUpValue(number);
+        case Step::LargeUp:
+            return largeStepUpValue(number);
+        case Step::Down:
+            return stepDownValue(number);
+        case Step::LargeDown:
+            return largeStepDownValue(number);
+        }
+        return std::nullopt;
+    }
+
+private:
+    NumberField::Parser m_parser;
+    NumberField::Writer m_writer;
+};
+
+} // namespace
+
+NumberField::NumberField(Parser parser, const Writer& writer, QWidget* parent)
+    : OASteppableTextField(parent)
+    , m_parser(parser)
+    , m_guard(new TypedTextGuard(*this, [this] { return refusal(); }))
+{
+    // Also for digits that read from the right: the decimals stand below each other.
+    setAlignment(Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter);
+    setNumber(std::nullopt);
+    setWriter(writer);
+}
+
+std::optional<NSDecimalNumber> NumberField::number() const
+{
+    return propertyValueAs<NSDecimalNumber>(objectValue());
+}
+
+void NumberField::setNumber(const std::optional<NSDecimalNumber>& number)
+{
+    setObjectValue(propertyValue(number));
+    if (!hasFocus()) {
+        showBeginning();
+    }
+}
+
+bool NumberField::isReadable() const
+{
+    return number() || text().trimmed().isEmpty();
+}
+
+bool NumberField::validateSteppedObjectValue(const PropertyValue& /*value*/) const
+{
+    return isReadable();
+}
+
+void NumberField::focusOutEvent(QFocusEvent* event)
+{
+    OASteppableTextField::focusOutEvent(event);
+    if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason) {
+        showBeginning();
+    }
+}
+
+/// A number that is too long for the field would else show its last digits, without its sign.
+void NumberField::showBeginning()
+{
+    setCursorPosition(0);
+}
+
+void NumberField::setWriter(const Writer& writer)
+{
+    setFormatter(std::make_unique<NumberTextFormatter>(m_parser, writer));
+}
+
+QString NumberField::refusal() const
+{
+    if (isReadable()) {
+        return {};
+    }
+    return m_parser(text())
+               ? tr("A number has at most %1 digits.").arg(NSDecimalNumber::maximumDigits)
+               : tr("This is not a number.");
+}

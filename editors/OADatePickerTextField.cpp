@@ -1,0 +1,159 @@
+#include "editors/OADatePickerTextField.h"
+
+#include "editors/OADatePickerButton.h"
+#include "editors/OAPopupDatePicker.h"
+#include "foundation/RelativeDateFormatter.h"
+
+#include <QKeyEvent>
+#include <QStyle>
+
+namespace {
+
+/// What the text and the button keep free at the button's side, in points.
+constexpr int calendarInset = 2;
+
+/// Gives a field the dates that people type.
+class DateFieldFormatter : public OATextFieldFormatter
+{
+public:
+    QString stringForObjectValue(const PropertyValue& value) const override
+    {
+        const auto date = propertyValueAs<Instant>(value);
+        return date ? m_formatter.stringFromDate(*date) : QString();
+    }
+
+    PropertyValue objectValueForString(const QString& text) const override
+    {
+        return propertyValue(m_formatter.dateFromString(text));
+    }
+
+    std::optional<PropertyValue> steppedValue(const PropertyValue& value, Step step) const override
+    {
+        const auto date = propertyValueAs<Instant>(value);
+        switch (step) {
+        case Step::Up:
+            return m_formatter.stepUpValue(date);
+        case Step::LargeUp:
+            return m_formatter.largeStepUpValue(date);
+        case Step::Down:
+            return m_formatter.stepDownValue(date);
+        case Step::LargeDown:
+            return m_formatter.largeStepDownValue(date);
+        }
+        return std::nullopt;
+    }
+
+private:
+    RelativeDateFormatter m_formatter;
+};
+
+} // namespace
+
+OADatePickerTextField::OADatePickerTextField(QWidget* parent)
+    : OASteppableTextField(parent)
+    , m_calendarButton(new OADatePickerButton(this))
+    , m_ownTextMargins(textMargins())
+{
+    setFormatter(std::make_unique<DateFieldFormatter>());
+    connect(m_calendarButton, &QAbstractButton::clicked, this,
+            &OADatePickerTextField::toggleDatePicker);
+    layOutCalendarButton();
+}
+
+OADatePickerTextField::~OADatePickerTextField() = default;
+
+std::optional<Instant> OADatePickerTextField::date() const
+{
+    return propertyValueAs<Instant>(objectValue());
+}
+
+void OADatePickerTextField::setDate(std::optional<Instant> date)
+{
+    setObjectValue(propertyValue(date));
+}
+
+void OADatePickerTextField::enterDate(std::optional<Instant> date)
+{
+    enterObjectValue(propertyValue(date));
+}
+
+Instant OADatePickerTextField::defaultDate() const
+{
+    const auto date = m_defaultTextField
+                          ? propertyValueAs<Instant>(m_defaultTextField->objectValue())
+                          : std::nullopt;
+    return date ? *date : RelativeDateFormatter().defaultDate();
+}
+
+void OADatePickerTextField::setDatePickerHidden(bool isHidden)
+{
+    m_isDatePickerHidden = isHidden;
+    m_calendarButton->setVisible(!isHidden);
+    layOutCalendarButton();
+}
+
+bool OADatePickerTextField::validateSteppedObjectValue(const PropertyValue& value) const
+{
+    const auto date = propertyValueAs<Instant>(value);
+    return date && !(m_maxDate && *date > *m_maxDate) && !(m_minDate && *date < *m_minDate);
+}
+
+QRect OADatePickerTextField::calendarRectForFrame(const QRect& frame, const QSize& imageSize)
+{
+    // Down to a whole point also in a field that is lower than the image.
+    const int above = (frame.height() - imageSize.height()) >> 1;
+    return {{frame.x() + frame.width() - imageSize.width() - calendarInset, frame.y() + above},
+            imageSize};
+}
+
+void OADatePickerTextField::toggleDatePicker()
+{
+    auto& popup = OAPopupDatePicker::sharedPopupDatePicker();
+    if (popup.control() == this) {
+        popup.close();
+    } else {
+        popup.startPickingDateWithTitle(tr("Choose Date"), *this, defaultDate());
+    }
+}
+
+bool OADatePickerTextField::event(QEvent* event)
+{
+    const bool isHandled = OASteppableTextField::event(event);
+    switch (event->type()) {
+    case QEvent::Resize:
+    case QEvent::LayoutDirectionChange:
+        layOutCalendarButton();
+        break;
+    case QEvent::ReadOnlyChange:
+        m_calendarButton->setEnabled(!isReadOnly());
+        break;
+    default:
+        break;
+    }
+    return isHandled;
+}
+
+void OADatePickerTextField::keyPressEvent(QKeyEvent* event)
+{
+    const auto modifiers = event->modifiers() & ~Qt::KeypadModifier;
+    const bool hasCalendar = !m_isDatePickerHidden && m_calendarButton->isEnabled();
+    if (hasCalendar && event->key() == Qt::Key_Down && modifiers == Qt::AltModifier) {
+        toggleDatePicker();
+    } else {
+        OASteppableTextField::keyPressEvent(event);
+    }
+}
+
+void OADatePickerTextField::layOutCalendarButton()
+{
+    const auto image = m_calendarButton->sizeHint();
+    m_calendarButton->setGeometry(
+        QStyle::visualRect(layoutDirection(), rect(), calendarRectForFrame(rect(), image)));
+
+    auto margins = m_ownTextMargins;
+    if (!m_isDatePickerHidden) {
+        const int taken = image.width() + calendarInset;
+        layoutDirection() == Qt::RightToLeft ? margins.setLeft(taken) : margins.setRight(taken);
+    }
+    setTextMargins(margins);
+}
