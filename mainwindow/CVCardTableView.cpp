@@ -155,6 +155,9 @@ CVCardTableRowView& CVCardTableView::rowViewForRow(int row)
     if (!view) {
         if (m_spareRowViews.empty()) {
             view = new CVCardTableRowView(this);
+            auto* const button = &view->cellView().addStatementButton();
+            connect(button, &QAbstractButton::clicked, this,
+                    [this, button] { Q_EMIT addStatement(button); });
         } else {
             view = m_spareRowViews.back();
             m_spareRowViews.pop_back();

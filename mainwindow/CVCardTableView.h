@@ -52,6 +52,8 @@ Q_SIGNALS:
     /// A row view was made, or given another row.
     void didAddRowView(CVCardTableRowView* rowView, int row);
     void doubleClicked(int row);
+    /// The "+" of a row was pressed: this button.
+    void addStatement(QObject* sender);
 
 protected:
     void willSelectRow(int row) override;

@@ -2,6 +2,8 @@
 
 #include "mainwindow/MainWindowController.h"
 
+#include "editors/CVCardPopoverController.h"
+#include "editors/CVStatementPopoverController.h"
 #include "foundation/Log.h"
 #include "foundation/UserDefaults.h"
 #include "mainwindow/MainWindowHost.h"
@@ -12,12 +14,15 @@
 #include "store/NSManagedObjectContext.h"
 #include "timeline/CVAdditions.h"
 #include "timeline/HorizontalScrollAnimation.h"
+#include "widgets/NSPopover.h"
 
 #include "ui_MainWindow.h"
 
 namespace {
 
 constexpr auto restoreTimelineGeometryNotification = "CVRestoreTimelineGeometryNotification";
+constexpr auto newCardNotification = "CVShowNewCardPopoverIfNeeded";
+constexpr auto newStatementNotification = "CVShowNewStatementPopoverForSelectedCard";
 
 /// The height of every row, of the cards' list and of the timeline, in points.
 constexpr int rowHeight = 96;
@@ -181,9 +186,9 @@ void MainWindowController::windowDidLoad()
     m_observations.push_back(m_cardsController->observe(
         "selectionIndex", [this](const ObservedChange&) { selectionIndexDidChange(); }));
     setUpTables();
-    m_notificationObservers.push_back(NotificationCenter::defaultCenter().addObserver(
-        restoreTimelineGeometryNotification, this,
-        [this](const Notification&) { restoreTimelineGeometry(); }));
+    handle(restoreTimelineGeometryNotification, &MainWindowController::restoreTimelineGeometry);
+    handle(newCardNotification, &MainWindowController::showNewCardPopoverIfNeeded);
+    handle(newStatementNotification, &MainWindowController::showNewStatementPopoverForSelectedCard);
     m_ui->timelineHeaderScrollView->setHorizontalSyncScrollView(m_ui->timelineScrollView);
     m_ui->timelineScrollView->setHorizontalSyncScrollView(m_ui->timelineHeaderScrollView);
     m_scrollAnimation = new HorizontalScrollAnimation(
@@ -195,7 +200,24 @@ void MainWindowController::windowDidLoad()
     restoreWindowFrame();
     // Chosen here, so that no ring greets people who have not touched a key yet.
     m_ui->cardsTableView->setFocus(Qt::OtherFocusReason);
+    observeSelectedStatement();
     m_notifications.enqueue(restoreTimelineGeometryNotification);
+    m_notifications.enqueue(newCardNotification);
+}
+
+void MainWindowController::handle(std::string_view notification,
+                                  void (MainWindowController::*handler)())
+{
+    m_notificationObservers.push_back(NotificationCenter::defaultCenter().addObserver(
+        notification, this, [this, handler](const Notification&) { (this->*handler)(); }));
+}
+
+void MainWindowController::observeSelectedStatement()
+{
+    for (const auto* const keyPath : {"selectedStatement.balance", "selectedStatement.limit"}) {
+        m_observations.push_back(observe(
+            keyPath, [this](const ObservedChange&) { selectedStatementFiguresDidChange(); }));
+    }
 }
 
 void MainWindowController::setUpTables()
@@ -205,6 +227,8 @@ void MainWindowController::setUpTables()
     cardsTable.setCardsController(*m_cardsController);
     cardsTable.setCardDelegate(this);
     cardsTable.setAddStatementAction(m_ui->addStatement);
+    connect(&cardsTable, &CVCardTableView::doubleClicked, this, &MainWindowController::getInfo);
+    connect(&cardsTable, &CVCardTableView::addStatement, this, &MainWindowController::addStatement);
 
     auto& timelineTable = *m_ui->timelineTableView;
     timelineTable.setRowHeight(rowHeight);

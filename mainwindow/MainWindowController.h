@@ -7,6 +7,7 @@
 #include "mainwindow/CVMainWindow.h"
 #include "timeline/CVCardTimelineCellDelegate.h"
 #include "timeline/CVTimelineTableViewDelegate.h"
+#include "widgets/NSPopoverDelegate.h"
 
 #include <QObject>
 #include <QString>
@@ -16,12 +17,16 @@
 #include <string_view>
 #include <vector>
 
+class CVCardPopoverController;
 class CVStatement;
+class CVStatementPopoverController;
 class HorizontalScrollAnimation;
 class MainWindowHost;
 class NSArrayController;
 class NSManagedObjectContext;
 class NSUndoManager;
+class QRect;
+class QWidget;
 
 namespace Ui {
 class MainWindow;
@@ -32,13 +37,15 @@ class MainWindow;
 ///
 /// Its duties stand in files of their own: this class's set-up in MainWindowController.cpp, the
 /// list of cards and the two selections in ...CardList.cpp, zoom and what is remembered of the view
-/// in ...Zoom.cpp, commands, keys and totals in ...Commands.cpp.
+/// in ...Zoom.cpp, the popovers and what is done with what they edited in ...Editing.cpp,
+/// commands, keys and totals in ...Commands.cpp.
 class MainWindowController : public QObject,
                              public KeyValueObject,
                              public CVMainWindowDelegate,
                              public CVCardTableViewDelegate,
                              public CVTimelineTableViewDelegate,
-                             public CVCardTimelineCellDelegate
+                             public CVCardTimelineCellDelegate,
+                             public NSPopoverDelegate
 {
     Q_OBJECT
 
@@ -84,6 +91,27 @@ public:
     /// all when the statement is in view, or nowhere.
     void makeStatementVisible(const CVStatement& statement);
 
+    // Adding and editing.
+
+    /// The context of the copies that the editors work on; it is never saved. There must be a
+    /// context.
+    NSManagedObjectContext& scratchContext();
+    CVCardPopoverController& cardPopoverController();
+    CVStatementPopoverController& statementPopoverController();
+    /// What is open; null while nothing is.
+    NSPopover* cardPopover() const { return m_cardPopover.get(); }
+    NSPopover* statementPopover() const { return m_statementPopover.get(); }
+    /// The card whose editor is open; null while a new card is being made.
+    CVCard* editingCard() const { return m_editingCard; }
+    /// The card that will own the statement that is being made.
+    CVCard* cardForNewStatement() const { return m_cardForNewStatement; }
+
+    /// Opens the editor of what is selected in the list or on the timeline; each opens the one of
+    /// the selected statement where there is one. `clickedRow` is where the list was clicked twice.
+    void getInfo(int clickedRow);
+    /// Closes the statement's editor, if it is open, and drops what was typed.
+    void dismissStatementPopover();
+
     // Zoom.
 
     /// How many times the width of the view the timeline is wide; 0 until it is first set.
@@ -121,6 +149,11 @@ public:
     bool timelineCellSelectStatement(const CVCardTimelineCell& cell,
                                      const CVStatement& statement) const override;
 
+    void popoverWillShow(NSPopover& popover) override;
+    void popoverDidShow(NSPopover& popover) override;
+    bool popoverShouldClose(NSPopover& popover) override;
+    void popoverDidClose(NSPopover& popover) override;
+
     std::vector<std::string_view>
     keyPathsForValuesAffectingValueForKey(std::string_view key) const override;
     KeyValueObservable* observableValueForKey(std::string_view key) override;
@@ -129,6 +162,16 @@ public Q_SLOTS:
     /// Take back, or do again, the latest change of the records, and save what that leaves.
     void undo() override;
     void redo() override;
+
+    /// Opens the editor for a new card.
+    void addCard();
+    /// Opens the editor for a new statement: of the card in whose row the sender, a widget, is;
+    /// else of the selected card.
+    void addStatement(QObject* sender);
+    /// Opens the editor of the selected statement; without one, of the selected card.
+    void getSelectedCardInfo();
+    /// Deletes the selected statement; without one, the selected card. Saved at once.
+    void delete_();
 
     /// Zooms to the factor that the sender, a menu item, has as its property "tag".
     void applyScaleMultiplier(QObject* sender);
@@ -146,6 +189,8 @@ public Q_SLOTS:
 private:
     void loadWindow();
     void windowDidLoad();
+    void handle(std::string_view notification, void (MainWindowController::*handler)());
+    void observeSelectedStatement();
     void setUpPanels();
     void setUpTables();
     void setUpZoom();
@@ -161,6 +206,27 @@ private:
     void changeByUndoManager(void (NSUndoManager::*change)());
     void selectStatement(CVStatement* statement);
 
+    void showNewCardPopoverIfNeeded();
+    void showNewStatementPopoverForSelectedCard();
+    void showNewStatementPopoverAtRow(int row);
+    void showStatementPopoverAtPoint(const QPointF& point);
+    void showSelectedStatementPopover();
+    void showStatementPopoverForStatement(CVStatement& statement, const QRect& anchor);
+    void showSelectedCardPopover();
+    void showCardPopoverForCard(CVCard& card, int row, const QRect& anchor);
+    std::unique_ptr<NSPopover> newPopover(QWidget& content, const QString& name);
+    std::unique_ptr<NSPopover> newCardPopover();
+    std::unique_ptr<NSPopover> newStatementPopover();
+    /// What is typed, or which statement is selected, may be other than the open popover shows.
+    void selectedStatementFiguresDidChange();
+    void statementPopoverDidClose();
+    void updateStatement(CVStatement& statement, const CVStatement& source);
+    void insertStatement(const CVStatement& source);
+    void cardPopoverDidClose();
+    void updateCard(CVCard& card, const CVCard& source);
+    void insertCard(const CVCard& source);
+    void insertNewline();
+
     MainWindowHost& m_host;
     NSManagedObjectContext* m_context = nullptr;
     bool m_wasContextSet = false;
@@ -171,6 +237,14 @@ private:
     std::unique_ptr<CVMainWindow> m_window;
     std::unique_ptr<Ui::MainWindow> m_ui;
     HorizontalScrollAnimation* m_scrollAnimation = nullptr;
+    std::unique_ptr<NSManagedObjectContext> m_scratchContext;
+    std::unique_ptr<CVCardPopoverController> m_cardPopoverController;
+    std::unique_ptr<CVStatementPopoverController> m_statementPopoverController;
+    std::unique_ptr<NSPopover> m_cardPopover;
+    std::unique_ptr<NSPopover> m_statementPopover;
+    CVCard* m_editingCard = nullptr;
+    CVCard* m_cardForNewStatement = nullptr;
+    bool m_isClosingStatementPopover = false;
     NotificationQueue::Sender m_notifications;
     std::vector<NotificationCenter::Token> m_notificationObservers;
     std::vector<KeyValueObservation> m_observations;

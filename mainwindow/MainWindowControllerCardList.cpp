@@ -68,14 +68,21 @@ void MainWindowController::timelineTableViewDidSelectTimelineForCard(CVTimelineT
 
 void MainWindowController::timelineTableViewDidSelectStatement(CVTimelineTableView& table,
                                                                CVStatement* statement,
-                                                               const QPointF& /*point*/,
-                                                               int /*clickCount*/)
+                                                               const QPointF& point, int clickCount)
 {
     setSelectedStatement(statement);
     table.update();
+    if (!statement) {
+        dismissStatementPopover();
+    } else if (clickCount == 2) {
+        showStatementPopoverAtPoint(point);
+    }
 }
 
-void MainWindowController::timelineTableViewDidCancelOperation(CVTimelineTableView& /*table*/) {}
+void MainWindowController::timelineTableViewDidCancelOperation(CVTimelineTableView& /*table*/)
+{
+    dismissStatementPopover();
+}
 
 bool MainWindowController::timelineCellSelectStatement(const CVCardTimelineCell& /*cell*/,
                                                        const CVStatement& statement) const

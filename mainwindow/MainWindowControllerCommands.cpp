@@ -107,8 +107,24 @@ bool MainWindowController::keyDown(const QKeyEvent& event)
     case Qt::Key_Left:
         selectPreviousStatement();
         return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        insertNewline();
+        return true;
+    case Qt::Key_Delete:
+        delete_();
+        return true;
     default:
         return false;
+    }
+}
+
+void MainWindowController::insertNewline()
+{
+    if (m_selectedStatement) {
+        getSelectedCardInfo();
+    } else {
+        QApplication::beep();
     }
 }
 
