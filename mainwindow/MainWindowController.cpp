@@ -18,6 +18,8 @@
 
 #include "ui_MainWindow.h"
 
+#include <QAbstractButton>
+
 namespace {
 
 constexpr auto restoreTimelineGeometryNotification = "CVRestoreTimelineGeometryNotification";
@@ -194,6 +196,7 @@ void MainWindowController::windowDidLoad()
     m_scrollAnimation = new HorizontalScrollAnimation(
         *m_ui->timelineScrollView, *m_ui->timelineHeaderScrollView, m_window.get());
     setUpPanels();
+    setUpOrder();
     setUpZoom();
     setUpTotals();
     showContext();
@@ -243,6 +246,19 @@ void MainWindowController::setUpTables()
             m_ui->timelineHeaderView, [this](double width) {
                 m_ui->timelineHeaderView->setFixedWidth(static_cast<int>(width));
             });
+}
+
+void MainWindowController::setUpOrder()
+{
+    // A splitter puts its latest pane below the others; readers of the screen go by that order.
+    m_ui->cardsPane->lower();
+    QWidget* before = m_ui->cardsTableView;
+    for (const auto* const action : m_ui->buttonBar->actions()) {
+        auto* const button = m_ui->buttonBar->buttonForAction(action);
+        QWidget::setTabOrder(before, button);
+        before = button;
+    }
+    QWidget::setTabOrder(before, m_ui->timelineTableView);
 }
 
 void MainWindowController::setUpPanels()

@@ -192,6 +192,7 @@ private:
     void handle(std::string_view notification, void (MainWindowController::*handler)());
     void observeSelectedStatement();
     void setUpPanels();
+    void setUpOrder();
     void setUpTables();
     void setUpZoom();
     void setUpTotals();

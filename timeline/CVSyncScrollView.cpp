@@ -86,7 +86,8 @@ void CVSyncScrollView::scrollContentsBy(int dx, int dy)
 
 bool CVSyncScrollView::focusNextPrevChild(bool next)
 {
-    return QWidget::focusNextPrevChild(next);
+    // QScrollArea's own would scroll.
+    return QWidget::focusNextPrevChild(next); // NOLINT(bugprone-parent-virtual-call)
 }
 
 void CVSyncScrollView::resizeEvent(QResizeEvent* event)
