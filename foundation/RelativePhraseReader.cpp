@@ -15,7 +15,7 @@
 namespace {
 
 //: Alternatives are separated by '|'; all of them are understood.
-constexpr auto today = QT_TRANSLATE_NOOP("RelativeDateFormatter", "today|now");
+constexpr auto thisDay = QT_TRANSLATE_NOOP("RelativeDateFormatter", "today|now");
 constexpr auto yesterday = QT_TRANSLATE_NOOP("RelativeDateFormatter", "yesterday");
 constexpr auto tomorrow = QT_TRANSLATE_NOOP("RelativeDateFormatter", "tomorrow");
 //: %1 is a weekday, or one of the words for week, month and year.
@@ -119,7 +119,7 @@ std::optional<RelativePhraseReader::Unit> RelativePhraseReader::takeUnit(TypedTe
 
 std::optional<Instant> RelativePhraseReader::wordDate() const
 {
-    for (const auto& [word, days] : {std::pair(today, 0), {yesterday, -1}, {tomorrow, 1}}) {
+    for (const auto& [word, days] : {std::pair(thisDay, 0), {yesterday, -1}, {tomorrow, 1}}) {
         if (isPhrase(word)) {
             return distant(days, Unit::Day);
         }
