@@ -24,8 +24,14 @@ void vrCopyAttributesFromObject(NSManagedObject& receiver, const NSManagedObject
     const auto& entity = entityIn(context, receiver);
     for (const bool isTransient : {true, false}) {
         for (const auto& attribute : entity.attributes()) {
-            if (attribute.isTransient == isTransient) {
-                receiver.setValueForKey(source.valueForKey(attribute.name), attribute.name);
+            if (attribute.isTransient != isTransient) {
+                continue;
+            }
+            const auto value = source.valueForKey(attribute.name);
+            // A transient one may be computed from a stored one, and setting it may move that one
+            // by a rounding, if only for a moment: a change to undo where nothing changed.
+            if (!isTransient || value != receiver.valueForKey(attribute.name)) {
+                receiver.setValueForKey(value, attribute.name);
             }
         }
     }

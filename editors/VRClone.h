@@ -12,8 +12,8 @@ namespace VRClone {
 
 /// Gives the receiver all the attribute values of `source`, through its ordinary setters; a value
 /// that is absent there is absent here after. Relationships stay as they are. The transient
-/// attributes go first: they may set stored ones as well, which then get their exact value. Throws
-/// std::invalid_argument when `source` has no such attribute.
+/// attributes go first, where they differ: they may set stored ones as well, which then get their
+/// exact value. Throws std::invalid_argument when `source` has no such attribute.
 void vrCopyAttributesFromObject(NSManagedObject& receiver, const NSManagedObject& source,
                                 NSManagedObjectContext& context);
 

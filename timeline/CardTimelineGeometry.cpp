@@ -12,6 +12,8 @@ namespace {
 
 /// From a dot's middle to the edges of its square.
 constexpr double dotRadius = 3.0;
+/// What lies farther away than any screen reaches. It fits whole points as well.
+constexpr double farthest = 1e8;
 
 /// From the top of the frame to a balance of 0: the space around the capsule (4.0 + 2.5), the half
 /// of a dot, and its distance from the border.
@@ -146,7 +148,9 @@ CardTimelineGeometry::Range CardTimelineGeometry::statementsBetween(double left,
 
 QRectF CardTimelineGeometry::rectForStatementPoint(const QPointF& point)
 {
-    return {point.x() - dotRadius, point.y() - dotRadius, 2 * dotRadius, 2 * dotRadius};
+    const double x = std::clamp(point.x(), -farthest, farthest);
+    const double y = std::clamp(point.y(), -farthest, farthest);
+    return {x - dotRadius, y - dotRadius, 2 * dotRadius, 2 * dotRadius};
 }
 
 std::optional<CardTimelineGeometry::Hit> CardTimelineGeometry::hit(const QPointF& position) const

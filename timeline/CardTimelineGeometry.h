@@ -64,7 +64,8 @@ public:
     /// the lines to it are there too.
     Range statementsBetween(double left, double right) const;
 
-    /// The square of the dot at a statement's point.
+    /// The square of the dot at a statement's point. A point beyond all screens is drawn nearer, so
+    /// that its square can be counted in whole points too.
     static QRectF rectForStatementPoint(const QPointF& point);
     /// The first statement in order whose dot's square holds `position`; left and top edges belong
     /// to a square, right and bottom ones do not. Absent when none does.
