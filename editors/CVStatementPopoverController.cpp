@@ -46,6 +46,8 @@ void CVStatementPopoverController::bindFields()
             m_ui->dateField->setDate(m_date);
         }
     });
+    // What was typed for another statement and could not be read is no date of this one.
+    observeOwn("statement", [this] { m_ui->dateField->setDate(m_date); });
 
     bindAmount(*m_ui->balanceField, "statement.balance");
     bindAmount(*m_ui->limitField, "statement.limit");

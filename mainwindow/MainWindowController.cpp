@@ -286,7 +286,7 @@ void MainWindowController::setUpTotals()
     };
     m_observations.push_back(
         observe("formattedTotals", [showTotals](const ObservedChange&) { showTotals(); }));
-    for (const auto* const key : {"canAddStatement", "canScale"}) {
+    for (const auto* const key : {"canAddStatement", "canScale", "selectedStatement"}) {
         m_observations.push_back(observe(key, [this](const ObservedChange&) {
             Q_EMIT m_window->userInterfaceItemsDidChange();
         }));

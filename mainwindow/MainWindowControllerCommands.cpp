@@ -15,16 +15,6 @@
 #include <QApplication>
 #include <QKeyEvent>
 
-namespace {
-
-/// Gives an item its title with the name of what it would undo or redo.
-void showActionName(QAction& item, const QString& title, const QString& actionName)
-{
-    item.setText(actionName.isEmpty() ? title : QString(title + u' ' + actionName));
-}
-
-} // namespace
-
 QString MainWindowController::formattedTotals() const
 {
     return m_context ? DebtForecast::formattedDebtFreeDate(*m_context) : QString();
@@ -72,17 +62,21 @@ bool MainWindowController::validateUserInterfaceItem(QAction& item)
     const auto action = actionOfItem(item);
     const auto* const undoManager = windowWillReturnUndoManager();
     if (action == "undo") {
-        showActionName(item, tr("&Undo"), undoManager ? undoManager->undoActionName() : QString());
+        const auto name = undoManager ? undoManager->undoActionName() : QString();
+        item.setText(name.isEmpty() ? tr("&Undo") : tr("&Undo %1").arg(name));
         return undoManager && undoManager->canUndo();
     }
     if (action == "redo") {
-        showActionName(item, tr("&Redo"), undoManager ? undoManager->redoActionName() : QString());
+        const auto name = undoManager ? undoManager->redoActionName() : QString();
+        item.setText(name.isEmpty() ? tr("&Redo") : tr("&Redo %1").arg(name));
         return undoManager && undoManager->canRedo();
     }
     if (action == "addStatement") {
         return canAddStatement();
     }
-    if (action == "applyScaleMultiplier") {
+    if (action == "delete_") {
+        item.setText(m_selectedStatement ? tr("&Delete Statement") : tr("&Delete Card"));
+    } else if (action == "applyScaleMultiplier") {
         item.setChecked(item.property("tag").toDouble() == m_scale);
     } else if (action == "toggleCardList") {
         item.setChecked(!m_ui->splitView->isPaneCollapsed(0));

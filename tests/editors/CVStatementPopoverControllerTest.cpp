@@ -86,6 +86,13 @@ TEST_F(CVStatementPopoverControllerTest, ANewStatementBeginsAsTheLastOneButForIt
 
     editor.setCard(&store.insertCard(u"Empty"_qs));
     EXPECT_EQ(editor.createNewStatement().limit(), NSDecimalNumber());
+
+    field(u"dateField"_qs).setText(u"neither a date"_qs);
+    auto& undated = store.insertStatement(&card, std::nullopt);
+    editor.setOriginalStatement(&undated);
+    editor.setStatement(
+        &static_cast<CVStatement&>(scratch.insertNewObjectForEntityForName("Statement")));
+    EXPECT_EQ(field(u"dateField"_qs).text(), QString()) << "nor one of another statement";
 }
 
 TEST_F(CVStatementPopoverControllerTest, ADateMayBeConfirmedInAFreeMonthThatHasCome)
