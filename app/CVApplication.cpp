@@ -7,6 +7,7 @@
 
 #include <QAction>
 #include <QFontDatabase>
+#include <QIcon>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
@@ -72,6 +73,19 @@ QPalette lightPalette()
     return palette;
 }
 
+/// What the desktop's icon theme has for the program; where it has nothing, as for a program that
+/// was built and not installed, the icon that the program carries inside itself.
+QIcon programIcon()
+{
+    const auto name = QGuiApplication::desktopFileName();
+    QIcon carried;
+    for (const int size : {16, 24, 32, 48, 64, 128}) {
+        carried.addFile(QStringLiteral(":/images/icons/%1x%1/%2.png").arg(size).arg(name),
+                        {size, size});
+    }
+    return QIcon::fromTheme(name, carried);
+}
+
 } // namespace
 
 CVApplication::CVApplication(int& argc, char** argv)
@@ -80,6 +94,7 @@ CVApplication::CVApplication(int& argc, char** argv)
     AccessibleRowList::installFactory();
     setStyle(new PanelStyle);
     setPalette(lightPalette());
+    setWindowIcon(programIcon());
     const auto fallbackFamily = QStringLiteral("Inter");
     if (!hasDesktopSettings() && QFontDatabase::hasFamily(fallbackFamily)) {
         setFont(QFont(fallbackFamily, font().pointSize()));
