@@ -23,10 +23,18 @@ packages_of() {
         wanted { print $1 }' "$project/packaging/debian-packages.txt"
 }
 
+# apt_get ARGUMENT...: apt-get as root, asking nobody. Its words go to standard output and error.
+apt_get() {
+    local as_root=()
+    [[ $EUID -eq 0 ]] || as_root=(sudo)
+    "${as_root[@]}" env LC_ALL=C DEBIAN_FRONTEND=noninteractive \
+        apt-get --quiet --yes --option DPkg::Lock::Timeout=300 "$@" </dev/null
+}
+
 # install_packages GROUP...: installs what is missing of these groups. Where nothing is missing,
 # neither root nor a working apt is needed.
 install_packages() {
-    local wanted installed missing as_root=() log
+    local wanted installed missing log
     [[ -n $(type -P dpkg-query) ]] || fail "needs Debian 12: there is no dpkg here"
     mapfile -t wanted < <(packages_of "$@")
     # dpkg-query fails as soon as one package is unknown to it, but lists the others.
@@ -40,15 +48,12 @@ install_packages() {
             fail "cannot install ${missing[*]}: this needs root, and there is no sudo"
         # Asks for the password now, if it must, so that the wait below needs nobody.
         sudo true || fail "cannot install ${missing[*]}: this needs root, and sudo refused"
-        as_root=(sudo)
     fi
     say "installing ${missing[*]}"
-    as_root+=(env LC_ALL=C DEBIAN_FRONTEND=noninteractive
-        apt-get --quiet --yes --option DPkg::Lock::Timeout=300)
     log=$(mktemp)
     # Old package lists, or a foreign source that does not answer, may do: installing decides.
-    "${as_root[@]}" update </dev/null >"$log" 2>&1 || true
-    "${as_root[@]}" install --no-install-recommends "${missing[@]}" </dev/null >>"$log" 2>&1 ||
+    apt_get update >"$log" 2>&1 || true
+    apt_get install --no-install-recommends "${missing[@]}" >>"$log" 2>&1 ||
         fail "cannot install ${missing[*]}: $(grep --max-count=1 '^E: ' "$log" || tail -n 1 "$log")" \
             "(all of apt's words: $log)"
     rm "$log"
