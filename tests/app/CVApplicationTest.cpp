@@ -9,6 +9,7 @@
 
 #include <QAction>
 #include <QDialog>
+#include <QIcon>
 #include <QLineEdit>
 #include <QMenu>
 #include <QTest>
@@ -104,6 +105,13 @@ TEST_F(CVApplicationTest, anExceptionInAnEventHandlerDoesNotEndTheProgram)
     Thrower thrower;
     QEvent event(QEvent::User);
     EXPECT_FALSE(QCoreApplication::sendEvent(&thrower, &event));
+}
+
+TEST(CVApplication, windowsCarryTheIconInEverySize)
+{
+    for (const int size : {16, 24, 32, 48, 64, 128}) {
+        EXPECT_EQ(QGuiApplication::windowIcon().pixmap(size).width(), size);
+    }
 }
 
 TEST(CommandLine, takesWhatItKnowsAndRefusesTheRestInOneLine)
