@@ -1,5 +1,6 @@
 #include "editors/FormButton.h"
 
+#include "widgets/ButtonFace.h"
 #include "widgets/PixelSnapping.h"
 #include "widgets/RoundedRing.h"
 
@@ -17,21 +18,12 @@ constexpr int verticalPadding = 4;
 constexpr int horizontalPadding = 14;
 constexpr double cornerRadius = 4.0;
 
-/// The colours of one state of a button.
-struct Look
-{
-    QColor top;
-    QColor bottom;
-    QColor border;
-    QColor text;
-};
-
-const Look quietLook{QColor(0xFE, 0xFE, 0xFE), QColor(0xEC, 0xEC, 0xEC), QColor(0xB4, 0xB4, 0xB4),
-                     QColor(0x22, 0x21, 0x22)};
-const Look pressedLook{QColor(0xD9, 0xDE, 0xE4), QColor(0xE6, 0xE9, 0xED), QColor(0x9A, 0xA6, 0xB2),
-                       QColor(0x22, 0x21, 0x22)};
-const Look disabledLook{QColor(0xF6, 0xF6, 0xF6), QColor(0xF0, 0xF0, 0xF0),
-                        QColor(0xCF, 0xCF, 0xCF), QColor(0xA0, 0xA0, 0xA0)};
+const ButtonFace quietFace{QColor(0xFE, 0xFE, 0xFE), QColor(0xEC, 0xEC, 0xEC),
+                           QColor(0xB4, 0xB4, 0xB4), QColor(0x22, 0x21, 0x22)};
+const ButtonFace pressedFace{QColor(0xD9, 0xDE, 0xE4), QColor(0xE6, 0xE9, 0xED),
+                             QColor(0x9A, 0xA6, 0xB2), QColor(0x22, 0x21, 0x22)};
+const ButtonFace disabledFace{QColor(0xF6, 0xF6, 0xF6), QColor(0xF0, 0xF0, 0xF0),
+                              QColor(0xCF, 0xCF, 0xCF), QColor(0xA0, 0xA0, 0xA0)};
 
 QColor mixed(const QColor& color, const QColor& other, float share)
 {
@@ -42,15 +34,15 @@ QColor mixed(const QColor& color, const QColor& other, float share)
                             mix(color.blueF(), other.blueF()));
 }
 
-/// The default button's look, in shades of one colour.
-Look accentedLook(const QColor& accent, bool isDown)
+/// The default button's face, in shades of one colour.
+ButtonFace accentedFace(const QColor& accent, bool isDown)
 {
     const auto shade = [&accent](const QColor& other, float share) {
         return mixed(accent, other, share);
     };
-    return isDown ? Look{shade(Qt::black, 0.15F), accent, shade(Qt::black, 0.4F), Qt::white}
-                  : Look{shade(Qt::white, 0.25F), shade(Qt::white, 0.05F), shade(Qt::black, 0.2F),
-                         Qt::white};
+    return isDown ? ButtonFace{shade(Qt::black, 0.15F), accent, shade(Qt::black, 0.4F), Qt::white}
+                  : ButtonFace{shade(Qt::white, 0.25F), shade(Qt::white, 0.05F),
+                               shade(Qt::black, 0.2F), Qt::white};
 }
 
 } // namespace
@@ -71,22 +63,20 @@ QSize FormButton::sizeHint() const
 
 void FormButton::paintEvent(QPaintEvent* /*event*/)
 {
-    const Look look = !isEnabled()  ? disabledLook
-                      : isDefault() ? accentedLook(palette().color(QPalette::Highlight), isDown())
-                      : isDown()    ? pressedLook
-                                    : quietLook;
+    const ButtonFace face = !isEnabled() ? disabledFace
+                            : isDefault()
+                                ? accentedFace(palette().color(QPalette::Highlight), isDown())
+                            : isDown() ? pressedFace
+                                       : quietFace;
     QPainter painter(this);
     const auto box = PixelSnapping(painter).snappedRect(rect());
     painter.setRenderHint(QPainter::Antialiasing);
-    QLinearGradient face(box.topLeft(), box.bottomLeft());
-    face.setColorAt(0, look.top);
-    face.setColorAt(1, look.bottom);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(face);
+    painter.setBrush(face.gradient(box));
     painter.drawRoundedRect(box, cornerRadius, cornerRadius);
-    RoundedRing::draw(painter, box, cornerRadius, 1.0, look.border);
+    RoundedRing::draw(painter, box, cornerRadius, 1.0, face.border);
 
-    painter.setPen(look.text);
+    painter.setPen(face.ink);
     painter.setFont(titleFont());
     painter.drawText(rect(), Qt::AlignCenter | Qt::TextShowMnemonic, text());
     if (hasFocus()) {

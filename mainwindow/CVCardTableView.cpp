@@ -46,9 +46,7 @@ void CVCardTableView::setAddStatementAction(QAction* action)
 
 CVCard* CVCardTableView::cardAtRow(int row) const
 {
-    return row >= 0 && row < numberOfRows()
-               ? static_cast<CVCard*>(m_cards->arrangedObjects()[static_cast<std::size_t>(row)])
-               : nullptr;
+    return m_cards ? static_cast<CVCard*>(m_cards->objectAtRow(row)) : nullptr;
 }
 
 CVCardTableRowView* CVCardTableView::rowView(int row) const

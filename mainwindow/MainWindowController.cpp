@@ -24,7 +24,6 @@ namespace {
 
 constexpr auto restoreTimelineGeometryNotification = "CVRestoreTimelineGeometryNotification";
 constexpr auto newCardNotification = "CVShowNewCardPopoverIfNeeded";
-constexpr auto newStatementNotification = "CVShowNewStatementPopoverForSelectedCard";
 
 /// The height of every row, of the cards' list and of the timeline, in points.
 constexpr int rowHeight = 96;

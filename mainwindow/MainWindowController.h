@@ -187,6 +187,8 @@ public Q_SLOTS:
     void selectPreviousStatement();
 
 private:
+    static constexpr auto newStatementNotification = "CVShowNewStatementPopoverForSelectedCard";
+
     void loadWindow();
     void windowDidLoad();
     void handle(std::string_view notification, void (MainWindowController::*handler)());

@@ -19,12 +19,6 @@
 
 #include <QScopedValueRollback>
 
-namespace {
-
-constexpr auto newStatementNotification = "CVShowNewStatementPopoverForSelectedCard";
-
-} // namespace
-
 NSManagedObjectContext& MainWindowController::scratchContext()
 {
     if (!m_scratchContext) {

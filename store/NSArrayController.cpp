@@ -99,6 +99,11 @@ void NSArrayController::remove()
     }
 }
 
+NSManagedObject* NSArrayController::objectAtRow(int row) const
+{
+    return row >= 0 && row < rowCount() ? m_arranged[static_cast<std::size_t>(row)] : nullptr;
+}
+
 int NSArrayController::rowCount(const QModelIndex& parent) const
 {
     return parent.isValid() ? 0 : static_cast<int>(m_arranged.size());

@@ -33,6 +33,8 @@ public:
     NSManagedObjectContext* managedObjectContext() const { return m_context; }
 
     const std::vector<NSManagedObject*>& arrangedObjects() const { return m_arranged; }
+    /// The one in this row; null when there is no such row.
+    NSManagedObject* objectAtRow(int row) const;
     /// The position of a record; absent when it is not in the list.
     std::optional<std::size_t> indexOfObject(const NSManagedObject* object) const;
 

@@ -73,9 +73,7 @@ void CVTimelineTableView::setTimelineWidth(double width)
 
 CVCard* CVTimelineTableView::cardAtRow(int row) const
 {
-    return row >= 0 && row < numberOfRows()
-               ? static_cast<CVCard*>(m_cards->arrangedObjects()[static_cast<std::size_t>(row)])
-               : nullptr;
+    return m_cards ? static_cast<CVCard*>(m_cards->objectAtRow(row)) : nullptr;
 }
 
 std::optional<int> CVTimelineTableView::rowForCard(const CVCard* card) const

@@ -1,5 +1,6 @@
 #include "widgets/AddButton.h"
 
+#include "widgets/ButtonFace.h"
 #include "widgets/PixelSnapping.h"
 
 #include <QEvent>
@@ -12,22 +13,14 @@ constexpr int diameter = 24;
 constexpr double borderWidth = 1.0;
 constexpr double armLength = 4.0;
 
-struct Look
-{
-    QColor top;
-    QColor bottom;
-    QColor border;
-    QColor sign;
-};
-
-const Look quietLook{QColor(0xFB, 0xFB, 0xFB), QColor(0xEC, 0xEC, 0xEC), QColor(0xBC, 0xBC, 0xBC),
-                     QColor(0x66, 0x66, 0x66)};
-const Look hoveredLook{QColor(0xFF, 0xFF, 0xFF), QColor(0xF1, 0xF3, 0xF6), QColor(0x8F, 0xA9, 0xC4),
-                       QColor(0x2B, 0x51, 0x76)};
-const Look pressedLook{QColor(0xD9, 0xDE, 0xE4), QColor(0xE6, 0xE9, 0xED), QColor(0x7C, 0x98, 0xB6),
-                       QColor(0x2B, 0x51, 0x76)};
-const Look disabledLook{QColor(0xF2, 0xF2, 0xF2), QColor(0xEA, 0xEA, 0xEA),
-                        QColor(0xCF, 0xCF, 0xCF), QColor(0xAE, 0xAE, 0xAE)};
+const ButtonFace quietFace{QColor(0xFB, 0xFB, 0xFB), QColor(0xEC, 0xEC, 0xEC),
+                           QColor(0xBC, 0xBC, 0xBC), QColor(0x66, 0x66, 0x66)};
+const ButtonFace hoveredFace{QColor(0xFF, 0xFF, 0xFF), QColor(0xF1, 0xF3, 0xF6),
+                             QColor(0x8F, 0xA9, 0xC4), QColor(0x2B, 0x51, 0x76)};
+const ButtonFace pressedFace{QColor(0xD9, 0xDE, 0xE4), QColor(0xE6, 0xE9, 0xED),
+                             QColor(0x7C, 0x98, 0xB6), QColor(0x2B, 0x51, 0x76)};
+const ButtonFace disabledFace{QColor(0xF2, 0xF2, 0xF2), QColor(0xEA, 0xEA, 0xEA),
+                              QColor(0xCF, 0xCF, 0xCF), QColor(0xAE, 0xAE, 0xAE)};
 
 } // namespace
 
@@ -52,19 +45,16 @@ bool AddButton::event(QEvent* event)
 
 void AddButton::paintEvent(QPaintEvent* /*event*/)
 {
-    const Look& look = !isEnabled()   ? disabledLook
-                       : isDown()     ? pressedLook
-                       : underMouse() ? hoveredLook
-                                      : quietLook;
+    const ButtonFace& face = !isEnabled()   ? disabledFace
+                             : isDown()     ? pressedFace
+                             : underMouse() ? hoveredFace
+                                            : quietFace;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const double inset = borderWidth / 2.0;
     const QRectF circle = QRectF(rect()).adjusted(inset, inset, -inset, -inset);
-    QLinearGradient gradient(circle.topLeft(), circle.bottomLeft());
-    gradient.setColorAt(0, look.top);
-    gradient.setColorAt(1, look.bottom);
-    painter.setBrush(gradient);
-    painter.setPen(QPen(look.border, borderWidth));
+    painter.setBrush(face.gradient(circle));
+    painter.setPen(QPen(face.border, borderWidth));
     painter.drawEllipse(circle);
 
     // Filled along the pixels: a stroke would blur.
@@ -75,6 +65,6 @@ void AddButton::paintEvent(QPaintEvent* /*event*/)
     for (const auto& arm :
          {QRectF(middle.x() - armLength, middle.y() - half, 2 * armLength, 2 * half),
           QRectF(middle.x() - half, middle.y() - armLength, 2 * half, 2 * armLength)}) {
-        painter.fillRect(snapping.snappedRect(arm), look.sign);
+        painter.fillRect(snapping.snappedRect(arm), face.ink);
     }
 }
