@@ -13,6 +13,7 @@
 #include <QMenuBar>
 #include <QMetaMethod>
 
+#include <algorithm>
 #include <exception>
 
 namespace {
@@ -156,6 +157,20 @@ void CVApplication::connectActions(CVMainWindow& window)
     connect(&window, &CVMainWindow::userInterfaceItemsDidChange, &window, validate);
     connect(this, &QApplication::focusChanged, &window, validate);
     validate();
+}
+
+bool CVApplication::performAction(CVMainWindow& window, const QByteArray& action)
+{
+    validateActions(window);
+    const auto items = itemsOf(window);
+    const auto item = std::find_if(items.begin(), items.end(), [&action](const QAction* candidate) {
+        return UserInterfaceValidations::actionOfItem(*candidate) == action;
+    });
+    if (item == items.end() || !(*item)->isEnabled()) {
+        return false;
+    }
+    (*item)->trigger();
+    return true;
 }
 
 void CVApplication::validateActions(const CVMainWindow& window) const

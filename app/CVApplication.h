@@ -33,6 +33,10 @@ public:
     /// carries that out and finds that it makes sense.
     void connectActions(CVMainWindow& window);
 
+    /// Carries out the command of a menu item as if the person had chosen it. False when the window
+    /// has no such item, or it is disabled.
+    bool performAction(CVMainWindow& window, const QByteArray& action);
+
     /// The net under all event handlers: what one throws is logged.
     bool notify(QObject* receiver, QEvent* event) override;
 

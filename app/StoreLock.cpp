@@ -10,15 +10,14 @@
 
 StoreLock::StoreLock(const QString& directory)
     : m_descriptor(::open(QFile::encodeName(directory + u"/storedata.lock").constData(),
-                          O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR))
+                          O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK,
+                          S_IRUSR | S_IWUSR))
 {
-    if (m_descriptor < 0) {
-        return;
-    }
-    if (::flock(m_descriptor, LOCK_EX | LOCK_NB) == 0) {
-        m_state = State::Held;
-    } else if (errno == EWOULDBLOCK) {
-        m_state = State::HeldByAnother;
+    struct stat status = {};
+    if (m_descriptor < 0 || ::fstat(m_descriptor, &status) != 0) {
+        m_error = errno;
+    } else if (!S_ISREG(status.st_mode)) {
+        m_error = EINVAL;
     }
 }
 
@@ -27,4 +26,34 @@ StoreLock::~StoreLock()
     if (m_descriptor >= 0) {
         ::close(m_descriptor);
     }
+}
+
+StoreLock::State StoreLock::acquire()
+{
+    if (m_error != 0) {
+        return State::Unavailable;
+    }
+    if (::flock(m_descriptor, LOCK_EX | LOCK_NB) == 0) {
+        return State::Held;
+    }
+    if (errno == EWOULDBLOCK) {
+        return State::HeldByAnother;
+    }
+    m_error = errno;
+    return State::Unavailable;
+}
+
+QString StoreLock::storeName() const
+{
+    struct stat status = {};
+    if (m_error != 0 || ::fstat(m_descriptor, &status) != 0) {
+        return {};
+    }
+    // What is locked is the file, by whatever path one comes to it.
+    return QString::number(status.st_dev, 16) + u'_' + QString::number(status.st_ino, 16);
+}
+
+QString StoreLock::errorText() const
+{
+    return m_error == 0 ? QString() : qt_error_string(m_error);
 }

@@ -13,19 +13,27 @@ public:
     {
         Held,
         HeldByAnother,
-        /// The lock file cannot be made. Opening the store will tell what is wrong.
+        /// The lock file cannot be had. Opening the store may tell what is wrong.
         Unavailable,
     };
 
-    /// Tries to lock the store in `directory`.
+    /// Opens the lock file of the store in `directory`, and makes it if it is missing.
     explicit StoreLock(const QString& directory);
     StoreLock(const StoreLock&) = delete;
     StoreLock& operator=(const StoreLock&) = delete;
     ~StoreLock();
 
-    State state() const { return m_state; }
+    /// Tries to lock the store, without waiting.
+    State acquire();
+
+    /// The same for everyone who would lock this store, and another for every other store of this
+    /// machine: letters, digits and underscores. Empty when the lock file cannot be had.
+    QString storeName() const;
+    /// Why the lock file cannot be had, in the system's words.
+    QString errorText() const;
 
 private:
     int m_descriptor;
-    State m_state = State::Unavailable;
+    /// As in errno; 0 for none.
+    int m_error = 0;
 };

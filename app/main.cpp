@@ -1,4 +1,5 @@
-#include "app/AssertionFailure.h"
+#include "app/ActivationToken.h"
+#include "app/ApplicationService.h"
 #include "app/CVApplication.h"
 #include "app/CommandLine.h"
 #include "app/Corvane_AppDelegate.h"
@@ -10,6 +11,7 @@
 #include "app/SupportDirectory.h"
 #include "app/TerminationSignals.h"
 #include "app/Version.h"
+#include "app/WindowActivation.h"
 #include "foundation/Log.h"
 #include "foundation/RegionalSettings.h"
 #include "mainwindow/MainWindowController.h"
@@ -36,13 +38,6 @@ void nameApplication()
     QGuiApplication::setDesktopFileName(QStringLiteral("org.corvane.Corvane"));
 }
 
-/// Makes the person's directory and locks the store in it.
-std::unique_ptr<StoreLock> lockStore(const Corvane_AppDelegate& delegate)
-{
-    delegate.makeApplicationSupportDirectory();
-    return std::make_unique<StoreLock>(delegate.applicationSupportDirectory());
-}
-
 /// Whether a store could be written in the directory, so that a lock that cannot be had there is
 /// no side effect of a greater trouble that opening the store will tell.
 bool isWritableDirectory(const QString& path)
@@ -51,7 +46,83 @@ bool isWritableDirectory(const QString& path)
     return info.isDir() && info.isWritable();
 }
 
-int runApplication(CVApplication& application, const CommandLine& commandLine)
+/// What this instance has of the store: the lock on it, and, where there is a bus, the name by
+/// which those who come for the same store reach whoever has it.
+struct StoreClaim
+{
+    explicit StoreClaim(const QString& directory)
+        : lock(directory)
+    {
+        const auto bus = ApplicationService::sessionBus();
+        const auto storeName = lock.storeName();
+        if (bus && !storeName.isEmpty()) {
+            service.emplace(*bus, storeName);
+        }
+    }
+
+    StoreLock lock;
+    std::optional<ApplicationService> service;
+};
+
+/// Locks the store in `directory`; if another instance has it, that one comes forward. Answers the
+/// status with which the program is to end, absent when it may go on.
+std::optional<int> claimStore(StoreClaim& claim, const QString& directory,
+                              const ActivationToken& token, AlertPresenter& alerts)
+{
+    const auto state = claim.lock.acquire();
+    if (state == StoreLock::State::HeldByAnother) {
+        if (!claim.service || !claim.service->activateOther(token)) {
+            Log::line(u"Corvane is running already: its data are in use.");
+        }
+        return EXIT_SUCCESS;
+    }
+    if (state == StoreLock::State::Unavailable && isWritableDirectory(directory)) {
+        const NSError error(QStringLiteral("CORVANE_ERROR_DOMAIN"), 9998,
+                            QCoreApplication::translate(
+                                "main", "The data file could not be locked for Corvane alone."),
+                            directory + u"/storedata.lock: " + claim.lock.errorText());
+        Log::line(error.description());
+        alerts.presentError(error);
+        return EXIT_FAILURE;
+    }
+    if (claim.service) {
+        claim.service->serveApplication();
+    }
+    return std::nullopt;
+}
+
+/// The commands that may be asked for on the bus.
+const QStringList offeredActions = {QStringLiteral("addCard"), QStringLiteral("addStatement")};
+
+/// Lets what is asked for on the bus happen in the window.
+void connectService(const ApplicationService& service, CVApplication& application,
+                    Corvane_AppDelegate& delegate)
+{
+    QObject::connect(&service, &ApplicationService::activated, &delegate,
+                     [&delegate](const ActivationToken& token) {
+                         // What asks the person something comes before the window, which may not
+                         // even be there yet.
+                         auto* const window = QApplication::activeModalWidget();
+                         auto* const controller = delegate.mainWindowController();
+                         if (window) {
+                             WindowActivation::bringForward(*window, token);
+                         } else if (controller && delegate.applicationShouldHandleReopen()) {
+                             WindowActivation::bringForward(controller->window(), token);
+                         }
+                     });
+    QObject::connect(&service, &ApplicationService::actionActivated, &application,
+                     [&application, &delegate](const QString& action) {
+                         // As in the menu: only while it makes sense, and not over a question.
+                         auto* const controller = delegate.mainWindowController();
+                         if (controller && !QApplication::activeModalWidget() &&
+                             offeredActions.contains(action)) {
+                             application.performAction(controller->window(), action.toLatin1());
+                         }
+                     });
+}
+
+int runApplication(CVApplication& application, const CommandLine& commandLine,
+                   const ActivationToken& token)
 {
     const bool isSnapshot = !commandLine.snapshotPath.isEmpty();
     const std::unique_ptr<AlertPresenter> alerts =
@@ -74,17 +145,15 @@ int runApplication(CVApplication& application, const CommandLine& commandLine)
     if (!commandLine.isDemo) {
         SupportDirectory::makeDataHome();
     }
-    std::unique_ptr<StoreLock> lock;
+    std::optional<StoreClaim> claim;
     if (isPersonal) {
-        lock = lockStore(delegate);
-        if (lock->state() == StoreLock::State::HeldByAnother) {
-            Log::line(u"Corvane is running already: its data are in use.");
-            return EXIT_SUCCESS;
+        delegate.makeApplicationSupportDirectory();
+        const auto directory = delegate.applicationSupportDirectory();
+        if (const auto status = claimStore(claim.emplace(directory), directory, token, *alerts)) {
+            return *status;
         }
-        if (lock->state() == StoreLock::State::Unavailable &&
-            isWritableDirectory(delegate.applicationSupportDirectory())) {
-            Log::line(u"Unable to lock the store: storedata.lock cannot be used.");
-            return EXIT_FAILURE;
+        if (claim->service) {
+            connectService(*claim->service, application, delegate);
         }
     }
     if (commandLine.isDemo) {
@@ -143,9 +212,10 @@ int run(int argc, char** argv)
         // The picture does not depend on whether there is a screen.
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
+    const auto token = ActivationToken::fromEnvironment();
     nameApplication();
     CVApplication application(argc, argv);
-    return runApplication(application, commandLine);
+    return runApplication(application, commandLine, token);
 }
 
 } // namespace

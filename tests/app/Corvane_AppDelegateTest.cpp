@@ -19,6 +19,8 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+#include <unistd.h>
 #include <vector>
 
 namespace {
@@ -220,13 +222,40 @@ TEST(StoreLock, admitsOneInstanceAndForgetsItWhenItIsGone)
 {
     const QTemporaryDir directory;
     {
-        const StoreLock first(directory.path());
-        EXPECT_EQ(first.state(), StoreLock::State::Held);
-        EXPECT_EQ(StoreLock(directory.path()).state(), StoreLock::State::HeldByAnother);
+        StoreLock first(directory.path());
+        StoreLock second(directory.path());
+        EXPECT_EQ(first.acquire(), StoreLock::State::Held);
+        EXPECT_EQ(second.acquire(), StoreLock::State::HeldByAnother);
+        EXPECT_EQ(first.storeName(), second.storeName());
+        EXPECT_FALSE(first.storeName().isEmpty());
     }
-    EXPECT_EQ(StoreLock(directory.path()).state(), StoreLock::State::Held);
-    EXPECT_EQ(StoreLock(directory.filePath(QStringLiteral("missing"))).state(),
-              StoreLock::State::Unavailable);
+    EXPECT_EQ(StoreLock(directory.path()).acquire(), StoreLock::State::Held);
+}
+
+TEST(StoreLock, refusesWhatIsNoFileOfItsOwn)
+{
+    const QTemporaryDir directory;
+    const auto inside = [&directory](const char* name) {
+        return QFile::encodeName(directory.filePath(QString::fromLatin1(name)));
+    };
+    const auto path = inside("storedata.lock");
+    const auto refused = [&directory] {
+        StoreLock lock(directory.path());
+        return lock.acquire() == StoreLock::State::Unavailable && lock.storeName().isEmpty() &&
+               !lock.errorText().isEmpty();
+    };
+    ASSERT_EQ(::mkdir(path.constData(), 0700), 0);
+    EXPECT_TRUE(refused());
+    ::rmdir(path.constData());
+    ASSERT_EQ(::mkfifo(path.constData(), 0600), 0);
+    EXPECT_TRUE(refused());
+    ::unlink(path.constData());
+    ASSERT_EQ(::symlink(inside("elsewhere").constData(), path.constData()), 0);
+    EXPECT_TRUE(refused());
+    EXPECT_FALSE(QFileInfo::exists(directory.filePath(QStringLiteral("elsewhere"))));
+    ::unlink(path.constData());
+    ::rmdir(QFile::encodeName(directory.path()).constData());
+    EXPECT_TRUE(refused());
 }
 
 TEST(SupportDirectory, followsTheDataHomeUnlessItIsRelative)
