@@ -1,8 +1,10 @@
 #include "app/Corvane_AppDelegate.h"
 
+#include "app/AboutBox.h"
 #include "app/AlertPresenter.h"
 #include "app/AssertionFailure.h"
 #include "app/SupportDirectory.h"
+#include "app/UpdateWindow.h"
 #include "foundation/Log.h"
 #include "mainwindow/MainWindowController.h"
 #include "model/CVManagedObjectModel.h"
@@ -37,6 +39,16 @@ Corvane_AppDelegate::~Corvane_AppDelegate() = default;
 QString Corvane_AppDelegate::applicationSupportDirectory() const
 {
     return m_supportDirectory ? *m_supportDirectory : SupportDirectory::path();
+}
+
+QString Corvane_AppDelegate::storePath() const
+{
+    return applicationSupportDirectory() + u"/storedata.sqlite";
+}
+
+QWidget* Corvane_AppDelegate::mainWindow() const
+{
+    return m_mainWindowController ? &m_mainWindowController->window() : nullptr;
 }
 
 void Corvane_AppDelegate::makeApplicationSupportDirectory() const
@@ -77,8 +89,7 @@ NSPersistentStoreCoordinator* Corvane_AppDelegate::persistentStoreCoordinator()
     makeApplicationSupportDirectory();
     m_persistentStoreCoordinator = std::make_unique<NSPersistentStoreCoordinator>(*model);
     try {
-        m_persistentStoreCoordinator->addPersistentStore(applicationSupportDirectory() +
-                                                         u"/storedata.sqlite");
+        m_persistentStoreCoordinator->addPersistentStore(storePath());
         NSPersistentStoreCoordinator::MR_setDefaultStoreCoordinator(
             m_persistentStoreCoordinator.get());
     } catch (const NSError& error) {
@@ -127,6 +138,24 @@ void Corvane_AppDelegate::saveAction()
     } catch (const NSError& error) {
         m_alerts.presentError(error);
     }
+}
+
+void Corvane_AppDelegate::showAboutBox()
+{
+    if (!m_aboutBox) {
+        m_aboutBox = new AboutBox(storePath(), mainWindow());
+    }
+    m_aboutBox->show();
+    m_aboutBox->raise();
+    m_aboutBox->activateWindow();
+}
+
+void Corvane_AppDelegate::checkForUpdates()
+{
+    if (!m_updateWindow) {
+        m_updateWindow = new UpdateWindow(QDBusConnection::systemBus(), mainWindow());
+    }
+    m_updateWindow->check();
 }
 
 Corvane_AppDelegate::TerminateReply Corvane_AppDelegate::applicationShouldTerminate()

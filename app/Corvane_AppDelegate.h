@@ -4,16 +4,20 @@
 #include "mainwindow/MainWindowHost.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QString>
 
 #include <memory>
 #include <optional>
 
+class AboutBox;
 class AlertPresenter;
 class MainWindowController;
 class NSManagedObjectContext;
 class NSManagedObjectModel;
 class NSPersistentStoreCoordinator;
+class QWidget;
+class UpdateWindow;
 
 /// Opens the store, keeps its main context and the main window for the life of the program, saves,
 /// and decides about quitting.
@@ -66,8 +70,15 @@ public:
 public Q_SLOTS:
     /// The Save command.
     void saveAction();
+    /// The About command.
+    void showAboutBox();
+    /// The command that looks for a newer version of the program.
+    void checkForUpdates();
 
 private:
+    QString storePath() const;
+    QWidget* mainWindow() const;
+
     AlertPresenter& m_alerts;
     UserDefaults m_userDefaults;
     std::optional<QString> m_supportDirectory;
@@ -76,4 +87,7 @@ private:
     std::unique_ptr<NSPersistentStoreCoordinator> m_persistentStoreCoordinator;
     std::unique_ptr<NSManagedObjectContext> m_managedObjectContext;
     std::unique_ptr<MainWindowController> m_mainWindowController;
+    // The main window's, made on first use.
+    QPointer<AboutBox> m_aboutBox;
+    QPointer<UpdateWindow> m_updateWindow;
 };

@@ -5,6 +5,7 @@
 #include <unicode/timezone.h>
 #include <unicode/ucal.h>
 #include <unicode/ures.h>
+#include <unicode/uversion.h>
 
 #include <algorithm>
 #include <array>
@@ -125,6 +126,15 @@ RegionalSettings RegionalSettings::fromEnvironment()
 const RegionalSettings& RegionalSettings::current()
 {
     return inForce();
+}
+
+QString RegionalSettings::libraryVersion()
+{
+    UVersionInfo version = {};
+    u_getVersion(version);
+    std::array<char, U_MAX_VERSION_STRING_LENGTH> text = {};
+    u_versionToString(version, text.data());
+    return QString::fromLatin1(text.data());
 }
 
 bool RegionalSettings::rereadTimeZone()

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtGlobal>
+#include <QString>
 
 #include <string>
 #include <string_view>
@@ -23,6 +23,9 @@ public:
     /// The settings in force; those of the environment at first use, unless a
     /// ScopedRegionalSettings says otherwise.
     static const RegionalSettings& current();
+
+    /// The version of ICU, which knows the locales and zones, that is in use.
+    static QString libraryVersion();
 
     /// Takes the zone that the system has now into the settings in force. Answers whether it is
     /// another one than before, so that everything showing a date has to be drawn again.

@@ -225,6 +225,11 @@ void SQLiteStore::execute(const std::string& sql)
     m_database->exec(sql);
 }
 
+QString SQLiteStore::libraryVersion()
+{
+    return QString::fromLatin1(sqlite3_libversion());
+}
+
 SQLiteStore::SQLiteStore(const NSManagedObjectModel& model, const QString& path)
     : m_fileName(QFileInfo(path).fileName())
 {

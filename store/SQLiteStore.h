@@ -61,6 +61,9 @@ class SQLiteStore
 public:
     using RowHandler = std::function<void(const StoreRow&)>;
 
+    /// The version of SQLite that is in use.
+    static QString libraryVersion();
+
     /// Opens the file at `path`, or makes it. The model must outlive the store.
     SQLiteStore(const NSManagedObjectModel& model, const QString& path);
     ~SQLiteStore();
