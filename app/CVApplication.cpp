@@ -205,6 +205,17 @@ bool CVApplication::notify(QObject* receiver, QEvent* event)
     }
 }
 
+bool CVApplication::event(QEvent* event)
+{
+    // One from outside: the session manager's last word. Taken as a Quit of the person, it could
+    // make the closing window ask what to do when saving fails.
+    if (event->type() == QEvent::Quit && event->spontaneous()) {
+        Q_EMIT sessionEnded();
+        return true;
+    }
+    return QApplication::event(event);
+}
+
 void CVApplication::terminate()
 {
     quit();

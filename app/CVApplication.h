@@ -39,11 +39,16 @@ public:
 
     /// The net under all event handlers: what one throws is logged.
     bool notify(QObject* receiver, QEvent* event) override;
+    bool event(QEvent* event) override;
 
 public Q_SLOTS:
     /// Closes the windows, and with the last of them the program. A window that may not close keeps
     /// it running.
     void terminate();
+
+Q_SIGNALS:
+    /// The session is over, and wants the program to end without a word.
+    void sessionEnded();
 
 private:
     void validateActions(const CVMainWindow& window) const;

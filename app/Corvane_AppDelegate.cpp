@@ -19,11 +19,20 @@
 #include <cerrno>
 #include <exception>
 #include <sys/stat.h>
+#include <unistd.h>
 #include <utility>
 
 namespace {
 
 const QString className = QStringLiteral("Corvane_AppDelegate");
+
+/// Where everybody may make files, one that is there may be anybody's.
+bool isDirectoryOfPerson(const QByteArray& path)
+{
+    struct stat status = {};
+    return ::lstat(path.constData(), &status) == 0 && S_ISDIR(status.st_mode) &&
+           status.st_uid == ::geteuid();
+}
 
 } // namespace
 
@@ -54,11 +63,16 @@ QWidget* Corvane_AppDelegate::mainWindow() const
 void Corvane_AppDelegate::makeApplicationSupportDirectory() const
 {
     const auto path = applicationSupportDirectory();
+    const auto name = QFile::encodeName(path);
+    const bool isShared = !m_supportDirectory && SupportDirectory::isTemporary();
+    int failure = 0;
     if (QFileInfo::exists(path)) {
-        return;
+        failure = isShared && !isDirectoryOfPerson(name) ? EPERM : 0;
+    } else if (::mkdir(name.constData(), S_IRWXU) != 0) {
+        failure = errno;
     }
-    if (::mkdir(QFile::encodeName(path).constData(), S_IRWXU) != 0) {
-        const auto error = qt_error_string(errno);
+    if (failure != 0) {
+        const auto error = qt_error_string(failure);
         Log::line(QStringLiteral("Error creating application support directory at %1 : %2")
                       .arg(path, error));
         throw AssertionFailure(

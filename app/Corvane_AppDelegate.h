@@ -41,7 +41,7 @@ public:
     /// The directory of the store file.
     QString applicationSupportDirectory() const;
     /// Makes that directory, but no parents of it, if nothing is there. Throws AssertionFailure
-    /// when it cannot.
+    /// when it cannot, or when it would be in the temporary directory and is somebody else's.
     void makeApplicationSupportDirectory() const;
 
     /// Made on first use. Null when no model is packaged; throws NSError when one is broken.

@@ -1,5 +1,6 @@
 #include "app/DialogPresenter.h"
 
+#include "editors/FormButton.h"
 #include "store/NSError.h"
 
 #include <QApplication>
@@ -20,12 +21,20 @@ QMessageBox* activeBox(const QString& text, const QString& informativeText)
     return box;
 }
 
+QPushButton* addButton(QMessageBox& box, const QString& title, QMessageBox::ButtonRole role)
+{
+    auto* const button = new FormButton(&box);
+    button->setText(title);
+    box.addButton(button, role);
+    return button;
+}
+
 } // namespace
 
 bool DialogPresenter::presentError(const NSError& error)
 {
     auto* const box = activeBox(error.localizedDescription(), error.localizedFailureReason());
-    box->addButton(QMessageBox::Ok);
+    addButton(*box, QApplication::translate("DialogPresenter", "OK"), QMessageBox::AcceptRole);
     box->exec();
     return false;
 }
@@ -36,8 +45,8 @@ int DialogPresenter::runModalAlert(const Alert& alert)
     int pressed = firstButton + static_cast<int>(alert.buttonTitles.size()) - 1;
     for (qsizetype i = 0; i < alert.buttonTitles.size(); ++i) {
         const bool isLast = i + 1 == alert.buttonTitles.size();
-        auto* const button = box->addButton(
-            alert.buttonTitles[i], isLast ? QMessageBox::RejectRole : QMessageBox::AcceptRole);
+        auto* const button = addButton(*box, alert.buttonTitles[i],
+                                       isLast ? QMessageBox::RejectRole : QMessageBox::AcceptRole);
         QObject::connect(button, &QPushButton::clicked, box,
                          [&pressed, i] { pressed = firstButton + static_cast<int>(i); });
         if (i == 0) {

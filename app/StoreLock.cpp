@@ -1,5 +1,6 @@
 #include "app/StoreLock.h"
 
+#include <QCoreApplication>
 #include <QFile>
 
 #include <cerrno>
@@ -55,5 +56,15 @@ QString StoreLock::storeName() const
 
 QString StoreLock::errorText() const
 {
-    return m_error == 0 ? QString() : qt_error_string(m_error);
+    switch (m_error) {
+    case 0:
+        return {};
+    case EINVAL:
+    case EISDIR:
+    case ELOOP:
+    case ENXIO:
+        return QCoreApplication::translate("NSError", "It is not a file.");
+    default:
+        return qt_error_string(m_error);
+    }
 }

@@ -29,7 +29,7 @@ public:
     /// The same for everyone who would lock this store, and another for every other store of this
     /// machine: letters, digits and underscores. Empty when the lock file cannot be had.
     QString storeName() const;
-    /// Why the lock file cannot be had, in the system's words.
+    /// Why the lock file cannot be had, as a sentence for the person.
     QString errorText() const;
 
 private:

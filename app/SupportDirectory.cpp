@@ -27,8 +27,12 @@ QString SupportDirectory::dataHome()
 
 QString SupportDirectory::path()
 {
-    const auto base = dataHome();
-    return (base.isEmpty() ? QDir::tempPath() : base) + u"/Corvane";
+    return (isTemporary() ? QDir::tempPath() : dataHome()) + u"/Corvane";
+}
+
+bool SupportDirectory::isTemporary()
+{
+    return dataHome().isEmpty();
 }
 
 bool SupportDirectory::makeDataHome()

@@ -13,6 +13,9 @@ QString dataHome();
 /// none.
 QString path();
 
+/// Whether path() is in the temporary directory.
+bool isTemporary();
+
 /// Makes the base directory and its parents, for the person alone, if they are missing. Whether it
 /// is there now.
 bool makeDataHome();

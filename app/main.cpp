@@ -149,6 +149,9 @@ int runApplication(CVApplication& application, const CommandLine& commandLine,
     if (isPersonal) {
         delegate.makeApplicationSupportDirectory();
         const auto directory = delegate.applicationSupportDirectory();
+        if (SupportDirectory::isTemporary()) {
+            Log::line(QString(u"There is no home directory: the data are kept in " + directory));
+        }
         if (const auto status = claimStore(claim.emplace(directory), directory, token, *alerts)) {
             return *status;
         }
@@ -184,11 +187,13 @@ int runApplication(CVApplication& application, const CommandLine& commandLine,
                              controller.timeZoneDidChange();
                          }
                      });
-    const TerminationSignals signals;
-    QObject::connect(&signals, &TerminationSignals::received, &delegate, [&delegate] {
+    const auto endWithSession = [&delegate] {
         delegate.sessionWillEnd();
         QCoreApplication::exit(0);
-    });
+    };
+    const TerminationSignals signals;
+    QObject::connect(&signals, &TerminationSignals::received, &delegate, endWithSession);
+    QObject::connect(&application, &CVApplication::sessionEnded, &delegate, endWithSession);
     QObject::connect(
         &application, &QGuiApplication::commitDataRequest, &delegate,
         [&delegate] { delegate.sessionWillEnd(); }, Qt::DirectConnection);

@@ -44,6 +44,12 @@ void create(const QString& path)
     ::close(descriptor);
 }
 
+/// A journal comes and goes beside the file with every save.
+bool isInWriteProtectedFolder(const QString& path)
+{
+    return ::access(QFile::encodeName(QFileInfo(path).path()).constData(), W_OK) != 0;
+}
+
 /// Nobody's write bit is set: whoever did that wants the file left alone, even by an administrator
 /// whom the bits would not stop.
 bool isWriteProtected(const QString& path)
@@ -81,6 +87,10 @@ Content prepare(const QString& path, std::uint32_t formatVersion)
     if (isWriteProtected(path)) {
         fail(path, QT_TRANSLATE_NOOP("NSError", "The data file “%1” could not be opened."),
              QCoreApplication::translate("NSError", "It is write-protected."));
+    }
+    if (isInWriteProtectedFolder(path)) {
+        fail(path, QT_TRANSLATE_NOOP("NSError", "The data file “%1” could not be opened."),
+             QCoreApplication::translate("NSError", "Its folder is write-protected."));
     }
     if (file.size() == 0) {
         file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);

@@ -96,6 +96,17 @@ TEST_F(CVApplicationTest, menuItemsSendTheirActionWhileItMakesSense)
     EXPECT_FALSE(application().sendAction("dance", nullptr, nullptr));
 }
 
+TEST_F(CVApplicationTest, theEndOfTheSessionIsNoQuitOfThePerson)
+{
+    int ends = 0;
+    QObject::connect(&application(), &CVApplication::sessionEnded, &window(), [&ends] { ++ends; });
+    QEvent event(QEvent::Quit);
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    application().notify(&application(), &event);
+    EXPECT_EQ(ends, 1);
+    EXPECT_TRUE(window().isVisible());
+}
+
 TEST_F(CVApplicationTest, anExceptionInAnEventHandlerDoesNotEndTheProgram)
 {
     struct Thrower : QObject

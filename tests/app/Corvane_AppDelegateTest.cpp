@@ -271,6 +271,18 @@ TEST(SupportDirectory, followsTheDataHomeUnlessItIsRelative)
     EXPECT_EQ(with("relative", "/home/ada"), QStringLiteral("/home/ada/.local/share/Corvane"));
     EXPECT_EQ(with("", ""), QString(QDir::tempPath() + QStringLiteral("/Corvane")));
     const QTemporaryDir directory;
+    // In the temporary directory, a link may lead to where somebody else reads.
+    const auto oldTemporary = qgetenv("TMPDIR");
+    qputenv("TMPDIR", QFile::encodeName(directory.path()));
+    Person person;
+    const Corvane_AppDelegate delegate(person, UserDefaults::volatileDefaults());
+    delegate.makeApplicationSupportDirectory();
+    delegate.makeApplicationSupportDirectory();
+    ASSERT_TRUE(QDir(directory.path()).rmdir(QStringLiteral("Corvane")));
+    ASSERT_TRUE(QFile::link(QStringLiteral("/"), directory.filePath(QStringLiteral("Corvane"))));
+    const Log::Collector log;
+    EXPECT_THROW(delegate.makeApplicationSupportDirectory(), AssertionFailure);
+    qputenv("TMPDIR", oldTemporary);
     with(QFile::encodeName(directory.filePath(QStringLiteral("a/b"))).constData(), "");
     EXPECT_TRUE(SupportDirectory::makeDataHome());
     EXPECT_TRUE(SupportDirectory::makeDataHome());
