@@ -1,5 +1,6 @@
 #include "app/Corvane_AppDelegate.h"
 
+#include "app/AboutBox.h"
 #include "app/AlertPresenter.h"
 #include "app/AssertionFailure.h"
 #include "app/StoreLock.h"
@@ -12,10 +13,14 @@
 #include "store/NSManagedObjectContext.h"
 #include "store/NSPersistentStoreCoordinator.h"
 
+#include <QDesktopServices>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QTemporaryDir>
+#include <QUrl>
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <gtest/gtest.h>
 
@@ -44,6 +49,17 @@ public:
     std::vector<Alert> alerts;
     bool recovers = false;
     int button = firstButton + 1;
+};
+
+class FolderBrowser : public QObject
+{
+    Q_OBJECT
+
+public:
+    QUrl opened;
+
+public Q_SLOTS:
+    void open(const QUrl& url) { opened = url; }
 };
 
 class Corvane_AppDelegateTest : public testing::Test
@@ -218,6 +234,25 @@ TEST_F(Corvane_AppDelegateTest, undoFromTheWindowIsSavedAndShown)
     EXPECT_EQ(fresh.countForFetchRequest({"Card"}), 1);
 }
 
+TEST_F(Corvane_AppDelegateTest, theAboutBoxOpensTheFolderOfTheStore)
+{
+    // Not the file browser of the person who runs the tests.
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "");
+    qputenv("XDG_RUNTIME_DIR", "/missing");
+    FolderBrowser browser;
+    QDesktopServices::setUrlHandler(QStringLiteral("file"), &browser, "open");
+    delegate.applicationDidFinishLaunching();
+    delegate.showAboutBox();
+    delegate.showAboutBox();
+    const auto boxes = delegate.mainWindowController()->window().findChildren<AboutBox*>();
+    ASSERT_EQ(boxes.size(), 1);
+    EXPECT_FALSE(boxes[0]->isModal());
+    EXPECT_EQ(boxes[0]->findChild<QLineEdit*>(QStringLiteral("storeField"))->text(), storePath());
+    boxes[0]->findChild<QPushButton*>(QStringLiteral("openFolderButton"))->click();
+    EXPECT_EQ(browser.opened, QUrl::fromLocalFile(directory()));
+    QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+}
+
 TEST(StoreLock, admitsOneInstanceAndForgetsItWhenItIsGone)
 {
     const QTemporaryDir directory;
@@ -289,3 +324,5 @@ TEST(SupportDirectory, followsTheDataHomeUnlessItIsRelative)
     qunsetenv("XDG_DATA_HOME");
     qputenv("HOME", oldHome);
 }
+
+#include "Corvane_AppDelegateTest.moc"
