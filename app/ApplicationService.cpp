@@ -5,6 +5,8 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 
+#include <utility>
+
 namespace {
 
 const QString interfaceName = QStringLiteral("org.freedesktop.Application");
@@ -39,8 +41,8 @@ std::optional<QDBusConnection> ApplicationService::sessionBus()
     return bus.isConnected() ? std::optional(bus) : std::nullopt;
 }
 
-ApplicationService::ApplicationService(const QDBusConnection& connection, const QString& storeName)
-    : m_connection(connection)
+ApplicationService::ApplicationService(QDBusConnection connection, const QString& storeName)
+    : m_connection(std::move(connection))
     , m_storeService(applicationName() + u".Store_" + storeName)
 {
     m_connection.registerObject(objectPath(), interfaceName, this,

@@ -28,7 +28,7 @@ public:
 
     /// Waits in line for the name of the store. To be made before the store is locked: whoever
     /// holds the lock is then in that line, and moves up when those who do not hold it leave.
-    ApplicationService(const QDBusConnection& connection, const QString& storeName);
+    ApplicationService(QDBusConnection connection, const QString& storeName);
     ~ApplicationService() override;
 
     /// To be called by the instance that holds the store: takes the application's name too, if it

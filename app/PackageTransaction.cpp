@@ -49,9 +49,8 @@ QString reasonFor(const QDBusError& error)
 
 } // namespace
 
-PackageTransaction::PackageTransaction(const QDBusConnection& bus, QString method,
-                                       QVariantList arguments)
-    : m_bus(bus)
+PackageTransaction::PackageTransaction(QDBusConnection bus, QString method, QVariantList arguments)
+    : m_bus(std::move(bus))
     , m_method(std::move(method))
     , m_arguments(std::move(arguments))
 {

@@ -23,7 +23,7 @@ class PackageTransaction : public QObject
 
 public:
     /// Asks `method` of PackageKit's transactions at once. Its arguments are of the D-Bus types.
-    PackageTransaction(const QDBusConnection& bus, QString method, QVariantList arguments);
+    PackageTransaction(QDBusConnection bus, QString method, QVariantList arguments);
     /// Cancels what is not finished.
     ~PackageTransaction() override;
 

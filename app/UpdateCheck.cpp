@@ -3,6 +3,7 @@
 #include "app/PackageTransaction.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -14,8 +15,8 @@ constexpr quint64 installedFilter = 1U << 2U;
 
 } // namespace
 
-UpdateCheck::UpdateCheck(const QDBusConnection& bus, int patience)
-    : m_bus(bus)
+UpdateCheck::UpdateCheck(QDBusConnection bus, int patience)
+    : m_bus(std::move(bus))
     , m_patience(patience)
 {
     connect(&m_patience, &QAbstractAnimation::finished, this,

@@ -35,7 +35,7 @@ public:
     };
 
     /// Asks on `bus`, and waits `patience` milliseconds for everything together.
-    explicit UpdateCheck(const QDBusConnection& bus, int patience = 60000);
+    explicit UpdateCheck(QDBusConnection bus, int patience = 60000);
     ~UpdateCheck() override;
 
     /// Starts to ask, unless that is under way.
