@@ -64,8 +64,10 @@ void CVStatementPopoverController::bindFields()
         updateLine();
     });
 
-    observeOwn("canAddStatementForDate",
-               [this] { m_ui->okButton->setEnabled(canAddStatementForDate()); });
+    observeOwn("canAddStatementForDate", [this] {
+        m_ui->okButton->setEnabled(canAddStatementForDate());
+        updateLine();
+    });
 }
 
 void CVStatementPopoverController::bindAmount(AmountField& field, std::string_view keyPath)
@@ -124,11 +126,25 @@ void CVStatementPopoverController::setDate(const std::optional<Instant>& date)
 
 bool CVStatementPopoverController::canAddStatementForDate() const
 {
-    if (!m_date || Calculations::future(*m_date) || isTargetGone()) {
-        return false;
+    return dateRefusal().isEmpty();
+}
+
+/// Why the date may not be confirmed; empty when it may.
+QString CVStatementPopoverController::dateRefusal() const
+{
+    if (isTargetGone()) {
+        return tr("This was deleted meanwhile.");
+    }
+    if (!m_date) {
+        return m_ui->dateField->text().trimmed().isEmpty() ? tr("There is no date.")
+                                                           : tr("This is not a date.");
+    }
+    if (Calculations::future(*m_date)) {
+        return tr("This date is still to come.");
     }
     const auto* const clash = m_card ? m_card->statementForDate(*m_date) : nullptr;
-    return !clash || clash == m_originalStatement;
+    return !clash || clash == m_originalStatement ? QString()
+                                                  : tr("This month has a statement already.");
 }
 
 void CVStatementPopoverController::triggerRefresh()
@@ -188,9 +204,13 @@ bool CVStatementPopoverController::isTargetGone() const
            (m_originalStatement && m_originalStatement->isDeleted());
 }
 
-/// What the numbers mean as they stand in the form, with the date that is typed there.
+/// What keeps the form from being confirmed; else what the numbers mean as they stand there, with
+/// the date that is typed.
 QString CVStatementPopoverController::lineText() const
 {
+    if (const auto refusal = m_statement ? dateRefusal() : QString(); !refusal.isEmpty()) {
+        return refusal;
+    }
     const bool isReadable = m_ui->balanceField->isReadable() && m_ui->paymentField->isReadable() &&
                             m_ui->rateField->isReadable();
     if (!m_statement || !isReadable) {

@@ -80,6 +80,7 @@ private:
     void bindAmount(AmountField& field, std::string_view keyPath);
     void observeValueForKeyPath(std::string_view keyPath);
     void copyFromLastStatement(CVStatement& newStatement) const;
+    QString dateRefusal() const;
     bool isTargetGone() const;
 
     std::unique_ptr<Ui::CVStatementPopover> m_ui;

@@ -3,6 +3,7 @@
 #include "widgets/StyledTextField.h"
 
 #include <QApplication>
+#include <QScopedValueRollback>
 
 #include <utility>
 
@@ -38,12 +39,17 @@ void TypedTextGuard::mark()
 
 void TypedTextGuard::focusDidChange(const QWidget* before, const QWidget* now)
 {
+    if (s_isReturningFocus) {
+        return;
+    }
     // Out of its form the person may go at any time: the form stays open, or is given up.
     if (before != &m_field || !now || !m_field.isVisible() || !m_field.parentWidget() ||
         !m_field.parentWidget()->isAncestorOf(now)) {
         return;
     }
     if (!commitEditing()) {
+        // Two fields that cannot be read would else send the focus to and fro without end.
+        const QScopedValueRollback returning(s_isReturningFocus, true);
         m_field.setFocus();
     }
 }

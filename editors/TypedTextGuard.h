@@ -37,6 +37,9 @@ private:
     void mark();
     void focusDidChange(const QWidget* before, const QWidget* now);
 
+    /// Whether a guard is bringing the focus back to its field.
+    inline static bool s_isReturningFocus = false;
+
     StyledTextField& m_field;
     Refusal m_refusal;
 };

@@ -178,8 +178,15 @@ TEST_F(CVStatementPopoverControllerTest, TheLineSaysWhatTheTypedNumbersMean)
     field(u"paymentField"_qs).setText(u"300 pounds"_qs);
     EXPECT_EQ(line(), QString());
     field(u"paymentField"_qs).setText(u"300"_qs);
-    field(u"dateField"_qs).clear();
-    EXPECT_EQ(line(), QString());
+    for (const auto& [date, reason] :
+         {std::pair(QString(), u"There is no date."_qs),
+          {u"soon"_qs, u"This is not a date."_qs},
+          {u"15/03/2014"_qs, u"This date is still to come."_qs},
+          {u"20/06/2013"_qs, u"This month has a statement already."_qs}}) {
+        field(u"dateField"_qs).setText(date);
+        EXPECT_EQ(line(), reason);
+        EXPECT_FALSE(okButton().isEnabled());
+    }
     field(u"dateField"_qs).setText(u"15/03/2013"_qs);
     field(u"balanceField"_qs).clear();
     EXPECT_EQ(line(), QString());

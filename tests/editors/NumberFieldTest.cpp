@@ -112,6 +112,17 @@ TEST_F(NumberFieldTest, ATextThatIsNoNumberIsMarkedAndKeepsTheFocusInItsForm)
     EXPECT_TRUE(field.guard().commitEditing());
 }
 
+TEST_F(NumberFieldTest, OfTwoTextsThatAreNoNumbersTheLaterKeepsTheFocus)
+{
+    AmountField second(&form);
+    second.show();
+    second.setFocus();
+    field.setText(u"one"_qs);
+    second.setText(u"two"_qs);
+    field.setFocus();
+    EXPECT_TRUE(second.hasFocus());
+}
+
 TEST_F(NumberFieldTest, ArrowKeysStepExactlyAndAnnounceIt)
 {
     int changes = 0;
