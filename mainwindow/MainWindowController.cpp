@@ -345,7 +345,8 @@ void MainWindowController::showInvitation()
         hasCards ? tr("Add a card's statement with the + in its row, and another each month.")
                  : tr("Add your first card with the + below the list, then a statement each "
                       "month, and see the day you will be debt-free."));
-    const bool isInviting = m_context && (!hasCards || timelineIsEmpty());
+    // Nobody is invited to begin anew whose cards could not be read.
+    const bool isInviting = m_cardsController->isFetched() && (!hasCards || timelineIsEmpty());
     m_ui->invitationTitle->setVisible(isInviting);
     m_ui->invitationText->setVisible(isInviting);
 }

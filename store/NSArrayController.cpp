@@ -24,20 +24,27 @@ void NSArrayController::setManagedObjectContext(NSManagedObjectContext* context)
     beginResetModel();
     m_context = context;
     m_arranged.clear();
+    m_isFetched = false;
     endResetModel();
     if (!m_context) {
         return;
     }
     // What is announced from here on is new to the list.
     m_context->processPendingChanges();
+    connect(m_context, &NSManagedObjectContext::objectsDidChange, this,
+            &NSArrayController::updateWithChanges);
+    fetch();
+}
+
+void NSArrayController::fetch()
+{
     auto records = m_context->executeFetchRequest({m_entityName});
     std::ranges::stable_sort(
         records, [this](const auto* left, const auto* right) { return sortsBefore(left, right); });
     beginResetModel();
     m_arranged = std::move(records);
     endResetModel();
-    connect(m_context, &NSManagedObjectContext::objectsDidChange, this,
-            &NSArrayController::updateWithChanges);
+    m_isFetched = true;
     selectSomething(0);
 }
 
@@ -120,6 +127,10 @@ QVariant NSArrayController::data(const QModelIndex& index, int role) const
 
 void NSArrayController::updateWithChanges(const ObjectChanges& changes)
 {
+    if (!m_isFetched) {
+        fetch();
+        return;
+    }
     const auto selectedBefore = selectionIndex();
     for (const auto* const object : changes.deleted) {
         removeObject(object);

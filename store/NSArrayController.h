@@ -28,9 +28,13 @@ public:
     NSArrayController(std::string entityName, std::string sortKey, QObject* parent = nullptr);
 
     /// Shows the records of `context`, none without one. The context must outlive the controller or
-    /// be taken away again. Throws NSError when the records cannot be read; the list is empty then.
+    /// be taken away again. Throws NSError when the records cannot be read; the list is empty then,
+    /// and read when the context changes next.
     void setManagedObjectContext(NSManagedObjectContext* context);
     NSManagedObjectContext* managedObjectContext() const { return m_context; }
+
+    /// Whether there is a context whose records could be read.
+    bool isFetched() const { return m_isFetched; }
 
     const std::vector<NSManagedObject*>& arrangedObjects() const { return m_arranged; }
     /// The one in this row; null when there is no such row.
@@ -56,6 +60,7 @@ public:
     QVariant data(const QModelIndex& index, int role) const override;
 
 private:
+    void fetch();
     void updateWithChanges(const ObjectChanges& changes);
     void removeObject(const NSManagedObject* object);
     void insertObject(NSManagedObject* object);
@@ -69,6 +74,7 @@ private:
     std::string m_entityName;
     std::string m_sortKey;
     NSManagedObjectContext* m_context = nullptr;
+    bool m_isFetched = false;
     std::vector<NSManagedObject*> m_arranged;
     QItemSelectionModel m_selectionModel;
 };

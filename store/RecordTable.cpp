@@ -99,13 +99,19 @@ NSManagedObject& RecordTable::makeFault(std::int64_t id)
 void RecordTable::takeValues(NSManagedObject& record, const StoreRow& row)
 {
     record.allocateValues();
-    for (std::size_t i = 0; i < m_entity.attributes().size(); ++i) {
-        record.storeValue(i, row.attribute(i));
-    }
-    for (const auto& relationship : m_entity.relationships()) {
-        if (const auto id = row.target(relationship)) {
-            auto& table = m_context.table(*relationship.destinationEntity);
-            record.storeTarget(relationship, table.recordWithID(*id));
+    try {
+        for (std::size_t i = 0; i < m_entity.attributes().size(); ++i) {
+            record.storeValue(i, row.attribute(i));
         }
+        for (const auto& relationship : m_entity.relationships()) {
+            if (const auto id = row.target(relationship)) {
+                auto& table = m_context.table(*relationship.destinationEntity);
+                record.storeTarget(relationship, table.recordWithID(*id));
+            }
+        }
+    } catch (...) {
+        // A record that has only some of its values must not pass for one that has all.
+        record.setState(NSManagedObject::Fault, true);
+        throw;
     }
 }

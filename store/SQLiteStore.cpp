@@ -1,5 +1,6 @@
 #include "store/SQLiteStore.h"
 
+#include "foundation/Log.h"
 #include "store/NSError.h"
 #include "store/NSManagedObject.h"
 #include "store/StoreFile.h"
@@ -245,7 +246,9 @@ SQLiteStore::SQLiteStore(const NSManagedObjectModel& model, const QString& path)
         execute("PRAGMA synchronous = EXTRA");
         // Also shows whether the file may be written at all; nothing is yet.
         SQLite::Transaction transaction(*m_database, SQLite::TransactionBehavior::IMMEDIATE);
-        if (content == StoreFile::Content::Empty) {
+        // A left-over journal is played back by now: of a store whose making was broken off,
+        // nothing remains.
+        if (content == StoreFile::Content::Empty || QFileInfo(path).size() == 0) {
             createTables(model);
             transaction.commit();
         } else {
@@ -411,6 +414,7 @@ PropertyValue SQLiteStore::evaluate(const NSEntityDescription& entity,
 std::vector<std::int64_t> SQLiteStore::save(const StoreChanges& changes)
 {
     return guarded([&] {
+        endLeftTransaction();
         SQLite::Transaction transaction(*m_database, SQLite::TransactionBehavior::IMMEDIATE);
         // Records may refer to each other in any order; the references are checked at the end.
         execute("PRAGMA defer_foreign_keys = ON");
@@ -426,18 +430,49 @@ std::vector<std::int64_t> SQLiteStore::save(const StoreChanges& changes)
                 newIDs.emplace(record, ids.back());
             }
         }
+        Witness witness;
         for (const auto* const record : changes.deleted) {
-            deleteRow(*record);
+            if (deleteRow(*record)) {
+                witness = {&record->entity(), *record->recordID(), false};
+            }
         }
         for (std::size_t i = 0; i < ids.size(); ++i) {
             insertRow(*changes.inserted[i], ids[i], newIDs);
+            witness = {&changes.inserted[i]->entity(), ids[i], true};
         }
         for (const auto* const record : changes.updated) {
             updateRow(*record, newIDs);
         }
-        transaction.commit();
+        try {
+            transaction.commit();
+        } catch (const SQLite::Exception& exception) {
+            if (!isCommitted(witness)) {
+                throw;
+            }
+            Log::line(QString(u"The data file was saved, in spite of: " +
+                              QString::fromUtf8(exception.what())));
+        }
         return ids;
     });
+}
+
+bool SQLiteStore::isCommitted(const Witness& witness)
+{
+    // While the transaction is open, the row would be seen whatever becomes of it.
+    return witness.entity && !isInTransaction() &&
+           hasRow(*witness.entity, witness.id) == witness.isPresent;
+}
+
+bool SQLiteStore::isInTransaction() const
+{
+    return sqlite3_get_autocommit(m_database->getHandle()) == 0;
+}
+
+void SQLiteStore::endLeftTransaction()
+{
+    if (m_readDepth == 0 && isInTransaction()) {
+        execute("ROLLBACK");
+    }
 }
 
 std::int64_t SQLiteStore::nextID(const NSEntityDescription& entity)
@@ -506,14 +541,14 @@ void SQLiteStore::updateRow(const NSManagedObject& record, const NewIDs& newIDs)
     update->exec();
 }
 
-void SQLiteStore::deleteRow(const NSManagedObject& record)
+bool SQLiteStore::deleteRow(const NSManagedObject& record)
 {
     auto deletion =
         statement("DELETE FROM " + StoreSchema::quoted(record.entity().name()) + " WHERE id = ?");
     deletion->bind(1, *record.recordID());
-    deletion->exec();
     auto& lastID = m_lastIDs[&record.entity()];
     lastID = std::max(lastID, *record.recordID());
+    return deletion->exec() != 0;
 }
 
 void SQLiteStore::bindTarget(SQLite::Statement& statement, int parameter,
@@ -531,7 +566,8 @@ void SQLiteStore::beginRead()
 {
     if (m_readDepth == 0) {
         guarded([this] {
-            m_database->exec("BEGIN");
+            endLeftTransaction();
+            execute("BEGIN");
             // The first look takes the lock: whoever waits for it waits once, here.
             if (m_database->tryExec("SELECT count(*) FROM sqlite_schema") != SQLITE_OK) {
                 const int code = m_database->getExtendedErrorCode();
@@ -546,7 +582,8 @@ void SQLiteStore::beginRead()
 void SQLiteStore::endRead() noexcept
 {
     if (--m_readDepth == 0) {
-        // Nothing was written: there is nothing that could fail to be.
+        // Nothing was written: there is nothing that could be lost. One that stays open for lack
+        // of memory is ended before the next.
         m_database->tryExec("COMMIT");
     }
 }

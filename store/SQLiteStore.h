@@ -112,7 +112,22 @@ private:
     void updateRow(const NSManagedObject& record, const NewIDs& newIDs);
     static void bindTarget(SQLite::Statement& statement, int parameter,
                            const NSManagedObject* target, const NewIDs& newIDs);
-    void deleteRow(const NSManagedObject& record);
+    /// Whether the row was there.
+    bool deleteRow(const NSManagedObject& record);
+    /// A row by which a save is known to have taken effect: there since, or gone. Without an entity
+    /// there is none; such a save, of changed values alone, can be repeated.
+    struct Witness
+    {
+        const NSEntityDescription* entity = nullptr;
+        std::int64_t id = 0;
+        bool isPresent = false;
+    };
+    /// Whether a commit that reports a failure was carried out all the same: it does so when its
+    /// last steps fail, which make it lasting and give the file free.
+    bool isCommitted(const Witness& witness);
+    bool isInTransaction() const;
+    /// Takes back what a transaction left open that could not be ended, for lack of memory.
+    void endLeftTransaction();
     std::int64_t nextID(const NSEntityDescription& entity);
 
     QString m_fileName;

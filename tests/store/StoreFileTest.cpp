@@ -179,6 +179,20 @@ TEST(StoreFile, isRefusedWhileAnotherProgramWritesIt)
     EXPECT_NO_THROW(store.reopen());
 }
 
+TEST(StoreFile, aSaveThatAReaderHoldsUpIsNotTakenForDone)
+{
+    LibraryStore store;
+    store.open();
+    auto other = otherProgram(store);
+    other.exec("BEGIN; SELECT count(*) FROM Library");
+    store.insertLibrary(QStringLiteral("City"));
+    EXPECT_THROW(store.context().save(), NSError);
+    other.exec("COMMIT");
+    EXPECT_EQ(other.execAndGet("SELECT count(*) FROM Library").getInt(), 0);
+    store.context().save();
+    EXPECT_EQ(other.execAndGet("SELECT count(*) FROM Library").getInt(), 1);
+}
+
 TEST(StoreFile, anyKeyThatAFileMayHoldCanBeChangedAndDeleted)
 {
     LibraryStore store;
