@@ -1,7 +1,6 @@
 #include "app/Corvane_AppDelegate.h"
 
 #include "app/AboutBox.h"
-#include "app/AlertPresenter.h"
 #include "app/AssertionFailure.h"
 #include "app/StoreLock.h"
 #include "app/SupportDirectory.h"
@@ -12,6 +11,7 @@
 #include "store/NSError.h"
 #include "store/NSManagedObjectContext.h"
 #include "store/NSPersistentStoreCoordinator.h"
+#include "tests/support/Person.h"
 
 #include <QDesktopServices>
 #include <QDir>
@@ -26,30 +26,8 @@
 
 #include <sys/stat.h>
 #include <unistd.h>
-#include <vector>
 
 namespace {
-
-/// A person who reads every alert and presses the button that the test says.
-class Person : public AlertPresenter
-{
-public:
-    bool presentError(const NSError& error) override
-    {
-        errors.push_back(error);
-        return recovers;
-    }
-    int runModalAlert(const Alert& alert) override
-    {
-        alerts.push_back(alert);
-        return button;
-    }
-
-    std::vector<NSError> errors;
-    std::vector<Alert> alerts;
-    bool recovers = false;
-    int button = firstButton + 1;
-};
 
 class FolderBrowser : public QObject
 {
