@@ -13,7 +13,7 @@ add_library(corvane_options INTERFACE)
 target_compile_options(corvane_options INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror
     # GCC 12 warns of any "literal" + std::string that it optimises (its bug 105651).
-    -Wno-restrict)
+    $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 target_compile_definitions(corvane_options INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
     QT_NO_KEYWORDS QT_USE_QSTRINGBUILDER)
@@ -22,6 +22,10 @@ if(CORVANE_SANITIZERS)
         -fsanitize=address,undefined,float-cast-overflow -fno-sanitize-recover=all
         -fno-omit-frame-pointer)
     target_link_options(corvane_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+if(CORVANE_FUZZERS)
+    target_compile_options(corvane_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
 # corvane_library(NAME SOURCES file... LINKS library...)
