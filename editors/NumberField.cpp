@@ -95,6 +95,13 @@ void NumberField::focusOutEvent(QFocusEvent* event)
     }
 }
 
+void NumberField::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    OASteppableTextField::mouseDoubleClickEvent(event);
+    // To a text field, the digits between two separators are a word; a person means the number.
+    selectAll();
+}
+
 /// A number that is too long for the field would else show its last digits, without its sign.
 void NumberField::showBeginning()
 {

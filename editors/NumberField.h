@@ -41,6 +41,7 @@ public:
 
 protected:
     void focusOutEvent(QFocusEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
 
     NumberField(Parser parser, const Writer& writer, QWidget* parent);
 

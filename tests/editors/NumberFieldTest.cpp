@@ -123,6 +123,13 @@ TEST_F(NumberFieldTest, OfTwoTextsThatAreNoNumbersTheLaterKeepsTheFocus)
     EXPECT_TRUE(second.hasFocus());
 }
 
+TEST_F(NumberFieldTest, ADoubleClickSelectsTheNumberWhole)
+{
+    field.setNumber(NSDecimalNumber::fromText("12345678.90"));
+    QTest::mouseDClick(&field, Qt::LeftButton, {}, field.rect().center());
+    EXPECT_EQ(field.selectedText(), field.text());
+}
+
 TEST_F(NumberFieldTest, ArrowKeysStepExactlyAndAnnounceIt)
 {
     int changes = 0;
