@@ -123,6 +123,11 @@ QObject* CVApplication::targetForAction(const QByteArray& action, QObject* to, Q
     if (canDo(controller)) {
         return controller;
     }
+    // While another window of the program is in front, the main window's commands keep their sense.
+    if (auto* const sendersController = controllerOf(mainWindowOf(from));
+        canDo(sendersController)) {
+        return sendersController;
+    }
     if (canDo(this)) {
         return const_cast<CVApplication*>(this);
     }

@@ -10,8 +10,8 @@ class QKeyEvent;
 ///
 /// A command is the name of a slot, with or without the sender as argument. It goes to the first
 /// that has such a slot: of the widget with the focus, its parents up to the window, the window's
-/// delegate, the application, and the application's delegate. While no window is active, the
-/// sender's window is asked. Undo and redo are the exception:
+/// delegate, that of the sender's window, the application, and the application's delegate. While no
+/// window is active, the sender's window is asked. Undo and redo are the exception:
 /// while the main window is active they go to its controller, whatever has the focus.
 class CVApplication : public QApplication
 {

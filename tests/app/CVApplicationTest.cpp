@@ -92,6 +92,14 @@ TEST_F(CVApplicationTest, menuItemsSendTheirActionWhileItMakesSense)
     EXPECT_FALSE(item("zoom1")->isChecked());
 
     EXPECT_EQ(application().targetForAction("undo", &store.context(), nullptr), &controller);
+    QWidget another;
+    another.show();
+    another.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&another));
+    EXPECT_EQ(application().targetForAction("addCard", nullptr, item("addCard")), &controller);
+    EXPECT_EQ(application().targetForAction("addCard", nullptr, nullptr), nullptr);
+    window().activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window()));
     EXPECT_EQ(application().targetForAction("quit", nullptr, nullptr), &application());
     EXPECT_FALSE(application().sendAction("dance", nullptr, nullptr));
 }
