@@ -146,7 +146,9 @@ void CVSyncScrollView::follow(const QPoint& origin)
 void CVSyncScrollView::makeRoomForScrollBars()
 {
     const auto taken = [](const CVSyncScrollView* view) {
-        return view ? view->maximumViewportSize() - view->viewport()->size() : QSize(0, 0);
+        return view ? view->contentsRect().marginsRemoved(view->viewportMargins()).size() -
+                          view->viewport()->size()
+                    : QSize(0, 0);
     };
     setViewportMargins(0, 0, taken(m_horizontalSyncScrollView).width(),
                        taken(m_verticalSyncScrollView).height());

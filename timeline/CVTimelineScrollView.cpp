@@ -39,8 +39,15 @@ void CVTimelineScrollView::setScale(double scale)
 
 double CVTimelineScrollView::adjustTimelineWidth()
 {
-    const double scale = m_scale == 0.0 ? 1.0 : m_scale;
-    const double timelineWidth = std::floor(scale * viewport()->width()) - columnSpacing;
+    const auto timelineWidthIn = [scale = m_scale == 0.0 ? 1.0 : m_scale](int width) {
+        return std::floor(scale * width) - columnSpacing;
+    };
+    // Decided without the vertical bar, which may be there only because of the horizontal one: by
+    // the width beside it the two would take turns without end.
+    const int widest = maximumViewportSize().width();
+    setHorizontalScrollBarPolicy(timelineWidthIn(widest) > widest ? Qt::ScrollBarAlwaysOn
+                                                                  : Qt::ScrollBarAlwaysOff);
+    const double timelineWidth = timelineWidthIn(viewport()->width());
     if (auto* const table = timelineTableView()) {
         table->setTimelineWidth(timelineWidth);
         Q_EMIT timelineWidthDidChange(table->timelineWidth());

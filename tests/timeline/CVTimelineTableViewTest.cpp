@@ -14,6 +14,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -102,6 +103,25 @@ protected:
 };
 
 } // namespace
+
+TEST_F(CVTimelineTableViewTest, aScrollBarThatTakesFromTheOthersReasonDoesNotFlicker)
+{
+    // The table is wider than the view only while no vertical scroll bar stands beside it, which is
+    // there only while a horizontal one is.
+    const int height = table().numberOfRows() * 96;
+    int changes = 0;
+    QObject::connect(&scrollView, &CVTimelineScrollView::timelineWidthDidChange, &scrollView,
+                     [&changes] { ++changes; });
+    for (const int spare : {0, 1, 7, 13, 14}) {
+        for (int width = 390; width < 430; ++width) {
+            scrollView.setScale(1.01);
+            scrollView.resize(width, height + spare);
+            scrollView.adjustTimelineWidth();
+            QCoreApplication::sendPostedEvents();
+            EXPECT_LT(std::exchange(changes, 0), 10) << width << " × " << height + spare;
+        }
+    }
+}
 
 TEST_F(CVTimelineTableViewTest, aPressReportsTheRowAndThenTheStatementUnderIt)
 {
