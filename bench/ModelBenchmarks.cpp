@@ -8,33 +8,19 @@
 #include "store/NSManagedObjectContext.h"
 #include "store/NSPersistentStoreCoordinator.h"
 
+#include "bench/Benchmarks.h"
+#include "bench/Budget.h"
+#include "bench/GeneratedStore.h"
 #include "bench/SideBySide.h"
-#include "bench/StoreGenerator.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QTemporaryDir>
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <benchmark/benchmark.h>
 
-#include <map>
-#include <memory>
 #include <string>
 
 namespace {
-
-/// The stores of all sizes, each made when it is first asked for.
-const QString& pathOfStore(const StoreGenerator::Size& size)
-{
-    static const QTemporaryDir folder;
-    static std::map<std::string, QString> paths;
-    auto& path = paths[size.name];
-    if (path.isEmpty()) {
-        path = folder.filePath(QString::fromLatin1(size.name));
-        StoreGenerator::generate(size, path);
-    }
-    return path;
-}
 
 /// A store as the program has it open.
 class OpenStore
@@ -59,8 +45,8 @@ void readAll(SQLite::Statement& query)
 /// The overall debt-free text, beside SQLite alone finding each card's last statement.
 void formattedTotals(benchmark::State& state, const StoreGenerator::Size& size)
 {
-    OpenStore store(pathOfStore(size));
-    SQLite::Database database(pathOfStore(size).toStdString(), SQLite::OPEN_READONLY);
+    OpenStore store(GeneratedStore::path(size));
+    SQLite::Database database(GeneratedStore::path(size).toStdString(), SQLite::OPEN_READONLY);
     SQLite::Statement cards(database, "SELECT id FROM Card");
     SQLite::Statement last(database,
                            "SELECT date, balance, \"limit\", payment, annualPercentageRate"
@@ -81,7 +67,7 @@ void formattedTotals(benchmark::State& state, const StoreGenerator::Size& size)
 /// Opening a store and fetching its cards, beside SQLite alone doing so.
 void openStore(benchmark::State& state, const StoreGenerator::Size& size)
 {
-    const auto& path = pathOfStore(size);
+    const auto path = GeneratedStore::path(size);
     SideBySide::run(
         state,
         [&] {
@@ -98,25 +84,25 @@ void openStore(benchmark::State& state, const StoreGenerator::Size& size)
 /// What a check of the whole file would add to opening it, beside the quick one.
 void integrityCheck(benchmark::State& state, const StoreGenerator::Size& size)
 {
-    SQLite::Database database(pathOfStore(size).toStdString(), SQLite::OPEN_READONLY);
+    SQLite::Database database(GeneratedStore::path(size).toStdString(), SQLite::OPEN_READONLY);
     const auto check = [&](const char* pragma) {
         SQLite::Statement statement(database, pragma);
         readAll(statement);
     };
     SideBySide::run(
         state, [&] { check("PRAGMA integrity_check"); }, [&] { check("PRAGMA quick_check"); });
-    state.counters["bytes"] = static_cast<double>(QFile(pathOfStore(size)).size());
+    state.counters["bytes"] = static_cast<double>(QFile(GeneratedStore::path(size)).size());
 }
 
 /// Reading every statement of every card into records, beside SQLite alone reading them.
 void readStatements(benchmark::State& state, const StoreGenerator::Size& size)
 {
-    SQLite::Database database(pathOfStore(size).toStdString(), SQLite::OPEN_READONLY);
+    SQLite::Database database(GeneratedStore::path(size).toStdString(), SQLite::OPEN_READONLY);
     SQLite::Statement statements(database, "SELECT * FROM Statement ORDER BY card, date");
     SideBySide::run(
         state,
         [&] {
-            OpenStore store(pathOfStore(size));
+            OpenStore store(GeneratedStore::path(size));
             const auto cards = CVManagedObjectContext::allCardsWithStatements(store.context);
             for (const auto* const card : cards.value()) {
                 benchmark::DoNotOptimize(card->sortedStatements());
@@ -143,7 +129,7 @@ double residentBytes()
 void memoryOfStatements(benchmark::State& state)
 {
     while (state.KeepRunning()) {
-        OpenStore store(pathOfStore(StoreGenerator::stress));
+        OpenStore store(GeneratedStore::path(StoreGenerator::stress));
         const auto cards = CVManagedObjectContext::allCardsWithStatements(store.context).value();
         const double before = residentBytes();
         for (const auto* const card : cards) {
@@ -161,7 +147,7 @@ void saveStatement(benchmark::State& state, const StoreGenerator::Size& size)
     const QTemporaryDir folder;
     const auto copyOfStore = [&](const QString& name) {
         auto path = folder.filePath(name);
-        QFile::copy(pathOfStore(size), path);
+        QFile::copy(GeneratedStore::path(size), path);
         return path;
     };
     OpenStore store(copyOfStore(QStringLiteral("ours")));
@@ -215,11 +201,8 @@ void axisSteps(benchmark::State& state)
 
 } // namespace
 
-int main(int argc, char** argv)
+void Benchmarks::registerModel()
 {
-    const QCoreApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    // First: what others have freed would be used again without growing the process.
     benchmark::RegisterBenchmark("memoryOfStatements", memoryOfStatements)
         ->Iterations(1)
         ->Unit(benchmark::kMillisecond);
@@ -237,6 +220,6 @@ int main(int argc, char** argv)
         add("saveStatement", saveStatement);
         add("readStatements", readStatements);
     }
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
+    BudgetReporter::setBudget("formattedTotals/lifetime", {.milliseconds = 1.0});
+    BudgetReporter::setBudget("formattedTotals/stress", {.milliseconds = 10.0});
 }

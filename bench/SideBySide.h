@@ -20,14 +20,18 @@ double secondsOf(const Operation& operation)
 
 /// The body of a benchmark. It takes the time of `subject`; `reference` takes turns with it, so
 /// that whatever else the machine does slows both. Reports the time of the reference and how many
-/// times as long the subject takes.
-template <typename Subject, typename Reference>
-void run(benchmark::State& state, const Subject& subject, const Reference& reference)
+/// times as long the subject takes. `prepare` comes before each time of the subject, and is not
+/// timed.
+template <typename Subject, typename Reference, typename Preparation = void (*)()>
+void run(
+    benchmark::State& state, const Subject& subject, const Reference& reference,
+    const Preparation& prepare = [] {})
 {
     double subjectSeconds = 0.0;
     double referenceSeconds = 0.0;
     while (state.KeepRunning()) {
         referenceSeconds += secondsOf(reference);
+        prepare();
         const double seconds = secondsOf(subject);
         subjectSeconds += seconds;
         state.SetIterationTime(seconds);

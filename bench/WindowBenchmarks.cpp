@@ -3,11 +3,16 @@
 #include "app/CVApplication.h"
 #include "app/Corvane_AppDelegate.h"
 #include "app/LogPresenter.h"
+#include "editors/CVStatementPopoverController.h"
 #include "mainwindow/MainWindowController.h"
+#include "model/CVCard.h"
+#include "model/CVStatement.h"
 #include "timeline/CVSyncScrollView.h"
 
+#include "bench/Benchmarks.h"
+#include "bench/Budget.h"
+#include "bench/GeneratedStore.h"
 #include "bench/SideBySide.h"
-#include "bench/StoreGenerator.h"
 
 #include <QAbstractScrollArea>
 #include <QDir>
@@ -18,13 +23,12 @@
 #include <QProcess>
 #include <QScrollBar>
 #include <QTemporaryDir>
+#include <SQLiteCpp/SQLiteCpp.h>
 #include <benchmark/benchmark.h>
 
 #include <cstdlib>
 #include <functional>
 #include <iostream>
-#include <map>
-#include <memory>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -32,20 +36,6 @@
 namespace {
 
 constexpr QSize windowSize(1400, 900);
-
-/// The directories of the stores of all sizes, each made when it is first asked for.
-QString directoryOfStore(const StoreGenerator::Size& size)
-{
-    static const QTemporaryDir folder;
-    static std::map<std::string, QString> directories;
-    auto& directory = directories[size.name];
-    if (directory.isEmpty()) {
-        directory = folder.filePath(QString::fromLatin1(size.name));
-        QDir().mkpath(directory);
-        StoreGenerator::generate(size, directory + QStringLiteral("/storedata.sqlite"));
-    }
-    return directory;
-}
 
 /// The program with its window, as it starts on a store.
 class Program
@@ -76,7 +66,7 @@ void paint(QWidget& window, QImage& image)
 /// Painting the whole visible window, beside painting an empty one.
 void paintWindow(benchmark::State& state, const StoreGenerator::Size& size, int devicePixelRatio)
 {
-    Program program(directoryOfStore(size));
+    Program program(GeneratedStore::directory(size));
     QMainWindow empty;
     empty.resize(windowSize);
     QImage image(windowSize * devicePixelRatio, QImage::Format_ARGB32_Premultiplied);
@@ -97,7 +87,7 @@ using Step = std::function<void(MainWindowController& controller, int number)>;
 /// A step of the person's, to the painted window, beside painting an empty one.
 void step(benchmark::State& state, const StoreGenerator::Size& size, const Step& take)
 {
-    Program program(directoryOfStore(size));
+    Program program(GeneratedStore::directory(size));
     program.controller().setScale(4.0);
     paintUpdates(program.window());
     QMainWindow empty;
@@ -186,7 +176,7 @@ void showEveryRow(QWidget& window)
     std::cout << residentKibibytes() << std::endl;
 }
 
-int runAsChild(const std::string& task, int argc, char** argv)
+int bringUpWindow(const std::string& task, int argc, char** argv)
 {
     CVApplication application(argc, argv);
     if (task == emptyWindow) {
@@ -227,7 +217,7 @@ double runChild(const char* task, const QString& directory = {})
 /// From the start of the process to the first painted frame, beside an empty window's.
 void start(benchmark::State& state, const StoreGenerator::Size& size)
 {
-    const auto directory = directoryOfStore(size);
+    const auto directory = GeneratedStore::directory(size);
     double memory = 0.0;
     double emptyMemory = 0.0;
     SideBySide::run(
@@ -240,7 +230,7 @@ void start(benchmark::State& state, const StoreGenerator::Size& size)
 /// The memory after every row was shown.
 void showAll(benchmark::State& state, const StoreGenerator::Size& size)
 {
-    const auto directory = directoryOfStore(size);
+    const auto directory = GeneratedStore::directory(size);
     double memory = 0.0;
     while (state.KeepRunning()) {
         memory = runChild(everyRow, directory);
@@ -248,50 +238,106 @@ void showAll(benchmark::State& state, const StoreGenerator::Size& size)
     state.counters["MiB"] = memory;
 }
 
-void registerBenchmarks()
+/// Confirming the editor of a statement: copied, saved durably, redrawn, to the painted window.
+/// Beside it SQLite alone inserting a row just as durably, painting the window, and the totals.
+void confirm(benchmark::State& state, const StoreGenerator::Size& size)
 {
-    for (const auto& size :
-         {StoreGenerator::everyday, StoreGenerator::lifetime, StoreGenerator::stress}) {
-        const std::string name = size.name;
-        for (const int ratio : {1, 2}) {
-            benchmark::RegisterBenchmark(
-                ("paintWindow/" + name + '/' + std::to_string(ratio) + 'x').c_str(),
-                [size, ratio](benchmark::State& state) { paintWindow(state, size, ratio); })
-                ->UseManualTime()
-                ->Unit(benchmark::kMillisecond);
-        }
-        for (const auto& [what, take] : std::initializer_list<std::pair<const char*, Step>>{
-                 {"zoomStep/", zoom}, {"scrollStep/", scroll}}) {
-            benchmark::RegisterBenchmark(
-                (what + name).c_str(),
-                [size, take = take](benchmark::State& state) { step(state, size, take); })
-                ->UseManualTime()
-                ->Unit(benchmark::kMillisecond);
-        }
-        benchmark::RegisterBenchmark(("start/" + name).c_str(),
-                                     [size](benchmark::State& state) { start(state, size); })
-            ->UseManualTime()
-            ->Iterations(15)
-            ->Unit(benchmark::kMillisecond);
-        benchmark::RegisterBenchmark(("showEveryRow/" + name).c_str(),
-                                     [size](benchmark::State& state) { showAll(state, size); })
-            ->Iterations(1)
-            ->Unit(benchmark::kMillisecond);
-    }
+    const QTemporaryDir folder;
+    const auto copyOfStore = [&](const QString& name) {
+        QDir(folder.path()).mkdir(name);
+        const QString directory = folder.filePath(name);
+        QFile::copy(GeneratedStore::path(size), directory + QStringLiteral("/storedata.sqlite"));
+        return directory;
+    };
+    Program program(copyOfStore(QStringLiteral("ours")));
+    auto& controller = program.controller();
+    controller.setSelectedStatement(controller.selectedCard()->lastStatement());
+    const QString barePath =
+        copyOfStore(QStringLiteral("bare")) + QStringLiteral("/storedata.sqlite");
+    SQLite::Database bare(barePath.toStdString(), SQLite::OPEN_READWRITE);
+    bare.exec("PRAGMA synchronous = EXTRA");
+    SQLite::Statement insertion(
+        bare, "INSERT INTO Statement (card, date, balance, \"limit\", payment,"
+              " annualPercentageRate) VALUES (1, 1750000000, '250.00', '5000', '50', 0.199)");
+    int number = 0;
+    SideBySide::run(
+        state,
+        [&] {
+            controller.statementPopoverController().addOrUpdateStatement();
+            paintUpdates(program.window());
+        },
+        [&] {
+            insertion.exec();
+            insertion.reset();
+            program.window().update();
+            paintUpdates(program.window());
+            benchmark::DoNotOptimize(controller.formattedTotals());
+        },
+        [&] {
+            controller.getSelectedCardInfo();
+            controller.statementPopoverController().statement()->setBalance(
+                NSDecimalNumber(100 + ++number % 2));
+            QCoreApplication::processEvents();
+        });
+}
+
+using Measurement = std::function<void(benchmark::State& state)>;
+
+benchmark::internal::Benchmark* add(const std::string& name, const Measurement& measurement,
+                                    const Budget& budget)
+{
+    BudgetReporter::setBudget(name, budget);
+    return benchmark::RegisterBenchmark(name.c_str(), measurement)->Unit(benchmark::kMillisecond);
 }
 
 } // namespace
 
-int main(int argc, char** argv)
+void Benchmarks::registerWindow()
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    struct Row
+    {
+        StoreGenerator::Size size;
+        Budget start;
+        double mebibytes;
+    };
+    for (const auto& [size, startBudget, mebibytes] :
+         {Row{StoreGenerator::everyday, {.ratio = 3.0, .mebibytes = 58.0}, 200.0},
+          Row{StoreGenerator::lifetime, {.mebibytes = 70.0}, 200.0},
+          Row{StoreGenerator::stress,
+              {.ratio = 1.5, .relativeTo = "start/everyday", .mebibytes = 120.0},
+              200.0}}) {
+        const std::string name = size.name;
+        for (const int ratio : {1, 2}) {
+            add("paintWindow/" + name + '/' + std::to_string(ratio) + 'x',
+                [size, ratio](benchmark::State& state) { paintWindow(state, size, ratio); },
+                {.milliseconds = ratio == 1 ? 8.3 : 16.7})
+                ->UseManualTime();
+        }
+        for (const auto& [what, take] : std::initializer_list<std::pair<const char*, Step>>{
+                 {"zoomStep/", zoom}, {"scrollStep/", scroll}}) {
+            add(what + name,
+                [size, take = take](benchmark::State& state) { step(state, size, take); },
+                {.milliseconds = 8.3})
+                ->UseManualTime();
+        }
+        add("confirm/" + name, [size](benchmark::State& state) { confirm(state, size); },
+            {.ratio = 2.0})
+            ->UseManualTime();
+        add(
+            "start/" + name, [size](benchmark::State& state) { start(state, size); }, startBudget)
+            ->UseManualTime()
+            ->Iterations(15);
+        add("showEveryRow/" + name, [size](benchmark::State& state) { showAll(state, size); },
+            {.mebibytes = mebibytes})
+            ->Iterations(1);
+    }
+}
+
+std::optional<int> Benchmarks::runAsChild(int argc, char** argv)
+{
     const std::string task = argc > 1 ? argv[1] : "";
     if (task == emptyWindow || ((task == firstFrame || task == everyRow) && argc > 2)) {
-        return runAsChild(task, argc, argv);
+        return bringUpWindow(task, argc, argv);
     }
-    const CVApplication application(argc, argv);
-    registerBenchmarks();
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return EXIT_SUCCESS;
+    return std::nullopt;
 }

@@ -8,8 +8,10 @@
 #include "editors/AmountField.h"
 #include "editors/CVCardPopoverController.h"
 #include "editors/CVStatementPopoverController.h"
+#include "editors/CurrencyChooser.h"
 #include "editors/OADatePickerTextField.h"
 #include "editors/RateField.h"
+#include "editors/TypedTextGuard.h"
 #include "foundation/Clock.h"
 #include "mainwindow/MainWindowController.h"
 #include "model/CVCard.h"
@@ -444,8 +446,15 @@ private:
             const bool isTaken =
                 !before.originalCard || m_model.now.cards.contains(before.originalCard);
             const bool isLive = &editor.card()->managedObjectContext() == &context();
+            // A currency that was typed in part is completed now.
+            const bool isReadable =
+                editor.view().findChild<CurrencyChooser*>()->guard().commitEditing();
+            const auto card = PlainCard::of(*editor.card());
             editor.view().findChild<QPushButton*>(QStringLiteral("okButton"))->click();
-            return {isTaken && !isLive ? confirmed(*before.card, before.originalCard) : nothing};
+            require(bool(controller().cardPopover()) != isReadable,
+                    "a confirmed editor stays open, or one that must stay closed");
+            return {isReadable && isTaken && !isLive ? confirmed(card, before.originalCard)
+                                                     : nothing};
         }
         return {nothing};
     }
