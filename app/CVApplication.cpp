@@ -90,6 +90,7 @@ QIcon programIcon()
 
 CVApplication::CVApplication(int& argc, char** argv)
     : QApplication(argc, argv)
+    , m_translation(Translation::preferredLanguage())
 {
     AccessibleRowList::installFactory();
     setStyle(new PanelStyle);

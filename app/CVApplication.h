@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/Translation.h"
+
 #include <QApplication>
 #include <QByteArray>
 
@@ -56,5 +58,6 @@ private:
     /// Whether a key event is the undo or redo key on its way to a field of the main window.
     static bool isUndoOrRedoKey(const QEvent& event);
 
+    Translation m_translation;
     QObject* m_delegate = nullptr;
 };

@@ -5,6 +5,7 @@
 #include "model/CVCard.h"
 
 #include <QAbstractButton>
+#include <QCoreApplication>
 #include <QStringList>
 
 bool AccessibleCardRow::isValid() const
@@ -72,7 +73,8 @@ QString AccessibleCardRow::description() const
     QStringList parts{card->formattedBalanceAndLimit().value_or(QString()),
                       card->formattedAPR().value_or(QString()), card->formattedForecast()};
     parts.removeAll(QString());
-    return parts.join(QStringLiteral(", "));
+    return parts.join(
+        QCoreApplication::translate("AccessibleCardRow", ", ", "between the parts of a text"));
 }
 
 QAccessibleInterface* AccessibleCardRow::button() const

@@ -53,6 +53,7 @@ struct Line
     QRectF box;
     QFont font;
     bool isSubtitle = true;
+    bool isOwnText = false;
 
     QString elidedText() const
     {
@@ -67,18 +68,19 @@ std::vector<Line> linesOf(const CVCard& card, const QRectF& frame, double traili
     const double left = frame.x() + inset;
     const double right = frame.right() - trailingSpace;
     const auto add = [&](const QString& text, double x, double top, const QFont& font,
-                         bool isSubtitle = true) {
+                         bool isSubtitle = true, bool isOwnText = false) {
         if (x < right) {
             const QRectF box(x, frame.y() + top, right - x, QFontMetricsF(font).height());
-            lines.push_back({text, box, font, isSubtitle});
+            lines.push_back({text, box, font, isSubtitle, isOwnText});
         }
     };
     const auto titleFont = systemFont(titleSize);
     const auto detailFont = systemFont(detailSize);
     const auto name = card.name().value_or(QString());
-    add(name, left, inset, titleFont, false);
+    add(name, left, inset, titleFont, false, true);
     const double nameWidth = QFontMetricsF(titleFont).horizontalAdvance(name);
-    add(card.account().value_or(QString()), left + nameWidth + accountGap, accountTop, detailFont);
+    add(card.account().value_or(QString()), left + nameWidth + accountGap, accountTop, detailFont,
+        true, true);
     if (const auto* const statement = card.lastStatement()) {
         const auto amounts = statement->formattedBalanceAndLimit();
         const auto font = fittingFont(amounts, right - left, amountsSize, smallestAmountsSize);
@@ -108,20 +110,32 @@ void CVCardInfoCell::drawWithFrame(QPainter& painter, const QRectF& frame) const
     const auto lines = linesOf(*m_card, frame, m_trailingSpace);
     const auto titleColor = CVAdditions::cvCardTitleColorForHighlightedState(m_isHighlighted);
     const auto subtitleColor = CVAdditions::cvCardSubtitleColorForHighlightedState(m_isHighlighted);
+    const auto direction = painter.layoutDirection();
+    const bool isMirrored = direction == Qt::RightToLeft;
+    const auto textAlignment =
+        (isMirrored ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute | Qt::AlignTop;
     bool isTitle = true;
     for (const auto& line : lines) {
+        QRectF box = line.box;
+        if (isMirrored) {
+            box.moveRight(frame.left() + frame.right() - box.left());
+        }
+        // What the person wrote has a direction of its own: of "•••• 4410", the dots come first.
+        const bool isLeftward = line.isOwnText ? line.text.isRightToLeft() : isMirrored;
+        painter.setLayoutDirection(isLeftward ? Qt::RightToLeft : Qt::LeftToRight);
         if (isTitle) {
-            VRLetterpress::vr_drawLetterpressAtPoint(painter, line.elidedText(), line.box.topLeft(),
-                                                     {line.font, titleColor},
-                                                     m_isHighlighted ? 0.5 : 0.75);
+            VRLetterpress::vr_drawLetterpressInRect(painter, line.elidedText(), box,
+                                                    {line.font, titleColor, textAlignment},
+                                                    m_isHighlighted ? 0.5 : 0.75);
             isTitle = false;
             continue;
         }
         painter.setFont(line.font);
         painter.setPen(line.isSubtitle ? subtitleColor : titleColor);
-        painter.drawText(line.box, Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine,
+        painter.drawText(box, static_cast<int>(textAlignment) | Qt::TextSingleLine,
                          line.elidedText());
     }
+    painter.setLayoutDirection(direction);
 }
 
 QString CVCardInfoCell::expansionToolTip(const QRectF& frame) const

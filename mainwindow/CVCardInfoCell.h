@@ -22,8 +22,9 @@ public:
     double trailingSpace() const { return m_trailingSpace; }
     void setTrailingSpace(double space) { m_trailingSpace = space; }
 
-    /// Draws into `frame`, with the row's background. Nothing without a card. Throws NSError when
-    /// the card cannot be read.
+    /// Draws into `frame`, with the row's background; the texts begin at its right where the
+    /// painter's layout goes from right to left. Nothing without a card. Throws NSError when the
+    /// card cannot be read.
     void drawWithFrame(QPainter& painter, const QRectF& frame) const;
 
     /// The texts that are too long for the frame, a line each; empty when all are drawn whole.

@@ -5,6 +5,7 @@
 
 #include <QHelpEvent>
 #include <QPainter>
+#include <QStyle>
 #include <QToolTip>
 
 #include <exception>
@@ -67,6 +68,7 @@ bool CVCardTableCellView::event(QEvent* event)
 void CVCardTableCellView::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
+    painter.setLayoutDirection(layoutDirection());
     try {
         m_cell.drawWithFrame(painter, rect());
     } catch (const std::exception& exception) {
@@ -77,6 +79,9 @@ void CVCardTableCellView::paintEvent(QPaintEvent* /*event*/)
 void CVCardTableCellView::resizeEvent(QResizeEvent* /*event*/)
 {
     const int buttonX = width() - buttonInset - buttonSize;
-    m_cardInfoAnchor->setGeometry(0, 0, buttonX - buttonInset, height());
-    m_addStatementButton->setGeometry(buttonX, (height() - buttonSize) / 2, buttonSize, buttonSize);
+    const auto place = [this](QWidget& child, const QRect& leftToRight) {
+        child.setGeometry(QStyle::visualRect(layoutDirection(), rect(), leftToRight));
+    };
+    place(*m_cardInfoAnchor, {0, 0, buttonX - buttonInset, height()});
+    place(*m_addStatementButton, {buttonX, (height() - buttonSize) / 2, buttonSize, buttonSize});
 }

@@ -97,9 +97,14 @@ QString formattedForecast(std::int64_t payments, const std::optional<Instant>& d
     if (payments == 0 || !end) {
         return {};
     }
-    return *end == never ? QCoreApplication::translate("DebtForecast", "never")
-                         : QCoreApplication::translate("DebtForecast", "%1 m ⟶ %2")
-                               .arg(QString::number(payments), DateFormatter::shortText(*end));
+    if (*end == never) {
+        return QCoreApplication::translate("DebtForecast", "never");
+    }
+    const int months = static_cast<int>(payments);
+    //: In the space of a card's row: the months until it is paid off, and the day when it is. The
+    //: arrow points where reading goes on.
+    return QCoreApplication::translate("DebtForecast", "%n m ⟶ %1", nullptr, months)
+        .arg(DateFormatter::shortText(*end));
 }
 
 QString formattedForecast(const CVStatement& statement)

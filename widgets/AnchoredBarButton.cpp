@@ -33,7 +33,8 @@ QString toolTipOfAction(const QAction& action)
 {
     const auto shortcut = action.shortcut().toString(QKeySequence::NativeText);
     return shortcut.isEmpty() ? action.toolTip()
-                              : QString(action.toolTip() % u" (" % shortcut % u')');
+                              : AnchoredBarButton::tr("%1 (%2)", "what it does, and its key")
+                                    .arg(action.toolTip(), shortcut);
 }
 
 QFont glyphFont(const QFont& base, const QString& glyph)

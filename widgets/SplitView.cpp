@@ -3,6 +3,7 @@
 #include "widgets/SplitViewDivider.h"
 
 #include <QDataStream>
+#include <QEvent>
 #include <QIODevice>
 
 #include <algorithm>
@@ -57,7 +58,16 @@ SplitView::SplitView(QWidget* parent)
     : QSplitter(parent)
 {
     setHandleWidth(1);
-    connect(this, &QSplitter::splitterMoved, this, &SplitView::announceCollapses);
+    connect(this, &QSplitter::splitterMoved, this, [this] {
+        alignMirroredPanes();
+        announceCollapses();
+    });
+}
+
+void SplitView::setSizes(const QList<int>& sizes)
+{
+    QSplitter::setSizes(sizes);
+    alignMirroredPanes();
 }
 
 void SplitView::setMinimumSizes(const std::map<int, double>& sizes)
@@ -175,6 +185,32 @@ QSplitterHandle* SplitView::createHandle()
     connect(divider, &SplitViewDivider::doubleClicked, this,
             [this, divider] { openPanesBeside(divider); });
     return divider;
+}
+
+bool SplitView::event(QEvent* event)
+{
+    const bool isHandled = QSplitter::event(event);
+    if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest) {
+        alignMirroredPanes();
+    }
+    return isHandled;
+}
+
+/// From right to left, QSplitter puts the panes, but not the dividers, one point too far right.
+void SplitView::alignMirroredPanes()
+{
+    if (orientation() != Qt::Horizontal || !isRightToLeft()) {
+        return;
+    }
+    int right = contentsRect().right();
+    for (int index = 0; index < count(); ++index) {
+        if (const auto* const divider = handle(index); index > 0 && !divider->isHidden()) {
+            right = divider->mapToParent(divider->contentsRect().topLeft()).x() - 1;
+        }
+        auto frame = widget(index)->geometry();
+        frame.moveRight(right);
+        widget(index)->setGeometry(frame);
+    }
 }
 
 int SplitView::sizeToComeBackTo(int index) const

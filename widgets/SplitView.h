@@ -16,8 +16,8 @@
 /// last open pane stays open. A collapsed pane is disabled, so that the keyboard does not go where
 /// nothing is seen.
 ///
-/// QSplitter's own setSizes(), saveState() and restoreState() know nothing of a size to come back
-/// to; use the operations below instead.
+/// setSizes(), and QSplitter's own saveState() and restoreState(), know nothing of a size to come
+/// back to; there are operations below that do.
 class SplitView : public QSplitter
 {
     Q_OBJECT
@@ -30,6 +30,9 @@ public:
     /// there is room: the others take what comes and goes.
     std::map<int, double> minimumSizes() const { return m_minimumSizes; }
     void setMinimumSizes(const std::map<int, double>& sizes);
+
+    /// As QSplitter's, to be called on the view itself.
+    void setSizes(const QList<int>& sizes);
 
     /// The colour of the one-point lines between the panes.
     QColor dividerColor() const { return m_dividerColor; }
@@ -53,12 +56,14 @@ Q_SIGNALS:
 
 protected:
     QSplitterHandle* createHandle() override;
+    bool event(QEvent* event) override;
 
 private:
     int sizeToComeBackTo(int index) const;
     void rememberSizes();
     void openPanesBeside(QSplitterHandle* divider);
     void announceCollapses();
+    void alignMirroredPanes();
 
     std::map<int, double> m_minimumSizes;
     QColor m_dividerColor = Qt::black;

@@ -1,0 +1,178 @@
+#include "app/Translation.h"
+
+#include "editors/CVCardPopoverController.h"
+#include "editors/CVStatementPopoverController.h"
+#include "foundation/Clock.h"
+#include "foundation/RelativeDateFormatter.h"
+#include "mainwindow/MainWindowController.h"
+#include "tests/support/CardStore.h"
+#include "tests/support/EditorPopover.h"
+#include "tests/support/Utc.h"
+#include "tests/support/WindowHost.h"
+#include "widgets/SplitView.h"
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <gtest/gtest.h>
+
+#include <map>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace {
+
+/// In the English of the source, and in each language that the program speaks.
+class TranslationTest : public testing::TestWithParam<const char*>
+{
+protected:
+    TranslationTest()
+    {
+        auto& card = store.insertCard(QStringLiteral("Aurora"));
+        store.insertStatement(&card, utc(2026, 11, 14), {"412.07", "5000", "15", 0.189});
+        store.save();
+    }
+
+    Translation translation{QString::fromLatin1(GetParam())};
+    CardStore store;
+};
+
+void expectLetters(const QMenu& menu)
+{
+    std::set<QChar> letters;
+    for (const auto* const action : menu.actions()) {
+        if (!action->isSeparator()) {
+            const auto text = action->text();
+            const auto letter = text.indexOf(u'&') + 1;
+            EXPECT_TRUE(letter > 0 && letters.insert(text.at(letter).toLower()).second)
+                << text.toStdString();
+        }
+    }
+}
+
+/// Every text of a label or a button that is seen has its room.
+void expectRoomForTexts(const QWidget& window)
+{
+    for (const auto* const label : window.findChildren<QLabel*>()) {
+        if (!label->isVisible()) {
+            continue;
+        }
+        const auto& metrics = label->fontMetrics();
+        const int needed = label->wordWrap() ? label->heightForWidth(label->width())
+                                             : metrics.horizontalAdvance(label->text());
+        EXPECT_LE(needed, label->wordWrap() ? label->height() : label->contentsRect().width())
+            << label->text().toStdString();
+    }
+    for (const auto* const button : window.findChildren<QAbstractButton*>()) {
+        EXPECT_LE(button->sizeHint().width(), button->width()) << button->text().toStdString();
+    }
+}
+
+/// What the line of an editor has to say at times, in the room that it has.
+void expectRoomInLine(const QWidget& editor, bool isTranslated)
+{
+    auto* const line = editor.findChild<QLabel*>(QStringLiteral("line"));
+    for (const auto& [context, source] :
+         {std::pair("NumberField", "A number has at most %1 digits."),
+          {"NumberField", "This is not a number."},
+          {"CurrencyChooser", "There is no such currency."},
+          {"CVStatementPopoverController", "This was deleted meanwhile."},
+          {"CVStatementPopoverController", "This date is still to come."},
+          {"CVStatementPopoverController", "This month has a statement already."}}) {
+        const auto text = QCoreApplication::translate(context, source);
+        EXPECT_EQ(text != QString::fromUtf8(source), isTranslated) << source;
+        EXPECT_LE(line->fontMetrics().horizontalAdvance(text), line->width()) << text.toStdString();
+    }
+}
+
+} // namespace
+
+TEST_P(TranslationTest, NoTwoItemsOfAMenuHaveTheSameLetter)
+{
+    WindowHost host(store.context());
+    MainWindowController controller(host);
+    auto& menuBar = *controller.window().menuBar();
+    QMenu titles;
+    titles.addActions(menuBar.actions());
+    expectLetters(titles);
+    for (const auto* const menu : menuBar.findChildren<QMenu*>()) {
+        expectLetters(*menu);
+    }
+}
+
+TEST_P(TranslationTest, NoTextIsCutOffInTheSmallestWindow)
+{
+    WindowHost host(store.context());
+    MainWindowController controller(host);
+    auto& window = controller.window();
+    window.resize(window.minimumSize());
+    controller.showWindow();
+    QCoreApplication::processEvents();
+    expectRoomForTexts(window);
+    EXPECT_LE(window.menuBar()->sizeHint().width(), window.width());
+    const bool isMirrored = QGuiApplication::layoutDirection() == Qt::RightToLeft;
+    EXPECT_EQ(isMirrored, GetParam() == std::string("ar"));
+    const auto& panes = *window.findChild<SplitView*>();
+    EXPECT_EQ(panes.widget(isMirrored ? 1 : 0)->x(), 0);
+    EXPECT_EQ(panes.widget(isMirrored ? 0 : 1)->geometry().right(), panes.rect().right());
+
+    store.context().deleteObject(store.cardAt(0));
+    store.save();
+    window.resize(900, 420);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(window.findChild<QLabel*>(QStringLiteral("invitationText"))->isVisible());
+    expectRoomForTexts(window);
+}
+
+TEST_P(TranslationTest, NoTextIsCutOffInTheEditors)
+{
+    CVCardPopoverController cardEditor;
+    CVStatementPopoverController statementEditor;
+    for (CVPopoverController* const editor :
+         std::initializer_list<CVPopoverController*>{&cardEditor, &statementEditor}) {
+        EditorPopover popover(*editor);
+        popover.show();
+        QCoreApplication::processEvents();
+        expectRoomForTexts(editor->view());
+        expectRoomInLine(editor->view(), GetParam() != std::string("en"));
+    }
+}
+
+TEST_P(TranslationTest, DatesAreReadInItsWords)
+{
+    const FixedClock clock(utc(2026, 11, 18, 12));
+    const std::map<std::string, std::vector<std::pair<const char*, int>>> daysBefore = {
+        {"en", {{"yesterday", 1}, {"2 weeks ago", 14}}},
+        {"de",
+         {{"Gestern", 1},
+          {"vor 2 Wochen", 14},
+          {"vor einem Monat", 31},
+          {"-3T", 3},
+          {"letzte Woche", 7}}},
+        {"fr",
+         {{"hier", 1}, {"aujourd’hui", 0}, {"il y a 2 semaines", 14}, {"la semaine dernière", 7}}},
+        {"es", {{"ayer", 1}, {"manana", -1}, {"hace 3 días", 3}, {"el mes pasado", 31}}},
+        {"zh_CN", {{"昨天", 1}, {"3天前", 3}, {"上周", 7}, {"1 个月前", 31}}},
+        {"ar", {{"أمس", 1}, {"امس", 1}, {"قبل ٣ أيام", 3}, {"الشهر الماضي", 31}}},
+    };
+    for (const auto& [text, days] : daysBefore.at(GetParam())) {
+        const auto date = RelativeDateFormatter().dateFromString(QString::fromUtf8(text));
+        ASSERT_TRUE(date) << text;
+        EXPECT_EQ(utc(2026, 11, 18) - *date, days * 86400.0) << text;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, TranslationTest,
+                         testing::Values("en", "ar", "de", "es", "fr", "zh_CN"));
+
+TEST(TranslationsTest, ThereIsOneForEachLanguageAndNoneForAnother)
+{
+    EXPECT_EQ(Translation::languages().join(u' '), u"ar de es fr zh_CN"_qs);
+    const Translation none(QStringLiteral("xx"));
+    EXPECT_EQ(QCoreApplication::translate("CVCardPopover", "Cancel"), u"Cancel"_qs);
+    const Translation german(QStringLiteral("de"));
+    EXPECT_EQ(QCoreApplication::translate("CVCardPopover", "Cancel"), u"Abbrechen"_qs);
+}
