@@ -123,9 +123,11 @@ NSManagedObjectContext* Corvane_AppDelegate::managedObjectContext()
                 m_mainWindowController->setContext(m_managedObjectContext.get());
             }
         } else {
-            m_alerts.presentError(NSError(QStringLiteral("CORVANE_ERROR_DOMAIN"), 9999,
-                                          tr("Failed to initialize the store"),
-                                          tr("There was an error building up the data file.")));
+            m_alerts.presentError(
+                NSError(QStringLiteral("CORVANE_ERROR_DOMAIN"), 9999,
+                        ErrorText(QT_TRANSLATE_NOOP("NSError", "Failed to initialize the store")),
+                        ErrorText(QT_TRANSLATE_NOOP(
+                            "NSError", "There was an error building up the data file."))));
         }
     }
     return m_managedObjectContext.get();

@@ -1,6 +1,5 @@
 #include "app/StoreLock.h"
 
-#include <QCoreApplication>
 #include <QFile>
 
 #include <cerrno>
@@ -54,7 +53,7 @@ QString StoreLock::storeName() const
     return QString::number(status.st_dev, 16) + u'_' + QString::number(status.st_ino, 16);
 }
 
-QString StoreLock::errorText() const
+ErrorText StoreLock::errorText() const
 {
     switch (m_error) {
     case 0:
@@ -63,8 +62,8 @@ QString StoreLock::errorText() const
     case EISDIR:
     case ELOOP:
     case ENXIO:
-        return QCoreApplication::translate("NSError", "It is not a file.");
+        return ErrorText(QT_TRANSLATE_NOOP("NSError", "It is not a file."));
     default:
-        return qt_error_string(m_error);
+        return ErrorText::verbatim(qt_error_string(m_error));
     }
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "store/ErrorText.h"
+
 #include <QString>
 
 /// Keeps two instances of the program from working on one store.
@@ -30,7 +32,7 @@ public:
     /// machine: letters, digits and underscores. Empty when the lock file cannot be had.
     QString storeName() const;
     /// Why the lock file cannot be had, as a sentence for the person.
-    QString errorText() const;
+    ErrorText errorText() const;
 
 private:
     int m_descriptor;

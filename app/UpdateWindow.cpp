@@ -64,7 +64,8 @@ void UpdateWindow::setText(const QString& message, const QString& information)
     m_ui->informationLabel->setText(information);
     m_ui->informationLabel->setVisible(!information.isEmpty());
     // Nobody has the focus on a label: it is told of its own accord.
-    setAccessibleDescription(QString(message + u". " + information).trimmed());
+    setAccessibleDescription(information.isEmpty() ? message
+                                                   : tr("%1. %2").arg(message, information));
     QAccessibleEvent event(this, QAccessible::DescriptionChanged);
     AccessibleAnnouncements::make(event);
 }

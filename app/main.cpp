@@ -77,10 +77,12 @@ std::optional<int> claimStore(StoreClaim& claim, const QString& directory,
         return EXIT_SUCCESS;
     }
     if (state == StoreLock::State::Unavailable && isWritableDirectory(directory)) {
-        const NSError error(QStringLiteral("CORVANE_ERROR_DOMAIN"), 9998,
-                            QCoreApplication::translate(
-                                "main", "The data file could not be locked for Corvane alone."),
-                            directory + u"/storedata.lock: " + claim.lock.errorText());
+        const NSError error(
+            QStringLiteral("CORVANE_ERROR_DOMAIN"), 9998,
+            ErrorText(QT_TRANSLATE_NOOP("NSError",
+                                        "The file “%1” could not be locked for Corvane alone."),
+                      directory + u"/storedata.lock"),
+            claim.lock.errorText());
         Log::line(error.description());
         alerts.presentError(error);
         return EXIT_FAILURE;

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-NSError::NSError(QString domain, int code, QString description, QString failureReason)
+NSError::NSError(QString domain, int code, ErrorText description, ErrorText failureReason)
     : m_domain(std::move(domain))
     , m_code(code)
     , m_description(std::move(description))
@@ -12,9 +12,9 @@ NSError::NSError(QString domain, int code, QString description, QString failureR
 
 QString NSError::description() const
 {
-    QString text = m_description;
-    if (!m_failureReason.isEmpty()) {
-        text += u" " + m_failureReason;
+    QString text = m_description.english();
+    if (!m_failureReason.english().isEmpty()) {
+        text += u" " + m_failureReason.english();
     }
     return text + u" (" + m_domain + u", " + QString::number(m_code) + u")";
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "store/ErrorText.h"
+
 #include <QString>
 
 #include <exception>
@@ -11,21 +13,21 @@ class NSError : public std::exception
 public:
     /// `domain` and `code` name the failure to a program; `description` says to a person what
     /// failed, `failureReason` why (empty when nothing more is known).
-    NSError(QString domain, int code, QString description, QString failureReason = {});
+    NSError(QString domain, int code, ErrorText description, ErrorText failureReason = {});
 
     const QString& domain() const { return m_domain; }
     int code() const { return m_code; }
-    const QString& localizedDescription() const { return m_description; }
-    const QString& localizedFailureReason() const { return m_failureReason; }
+    const QString& localizedDescription() const { return m_description.localized(); }
+    const QString& localizedFailureReason() const { return m_failureReason.localized(); }
 
-    /// Everything in one line, for the log.
+    /// Everything in one line and in English, for the log.
     QString description() const;
     const char* what() const noexcept override { return m_what.c_str(); }
 
 private:
     QString m_domain;
     int m_code;
-    QString m_description;
-    QString m_failureReason;
+    ErrorText m_description;
+    ErrorText m_failureReason;
     std::string m_what;
 };

@@ -8,7 +8,6 @@
 #include "store/RecordTable.h"
 #include "store/SQLiteStore.h"
 
-#include <QCoreApplication>
 #include <QScopeGuard>
 
 #include <algorithm>
@@ -149,8 +148,8 @@ void NSManagedObjectContext::save()
     m_undoManager.closeEventGroup();
     if (!areValid) {
         throw NSError(QStringLiteral("NSManagedObjectContextErrorDomain"), 1,
-                      QCoreApplication::translate("NSError", "The changes could not be saved."),
-                      QCoreApplication::translate("NSError", "A record is not valid."));
+                      ErrorText(QT_TRANSLATE_NOOP("NSError", "The changes could not be saved.")),
+                      ErrorText(QT_TRANSLATE_NOOP("NSError", "A record is not valid.")));
     }
     const StoreChanges changes{insertedObjects(), updatedObjects(), deletedObjects()};
     if (!changes.isEmpty()) {

@@ -132,8 +132,8 @@ private:
 [[noreturn]] void throwModelError(const QStringList& errors)
 {
     throw NSError(QStringLiteral("NSManagedObjectModelErrorDomain"), 1,
-                  QStringLiteral("The object model could not be read."),
-                  errors.join(QStringLiteral("; ")));
+                  ErrorText::verbatim(QStringLiteral("The object model could not be read.")),
+                  ErrorText::verbatim(errors.join(QStringLiteral("; "))));
 }
 
 } // namespace

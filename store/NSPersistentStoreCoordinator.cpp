@@ -3,8 +3,6 @@
 #include "store/NSError.h"
 #include "store/SQLiteStore.h"
 
-#include <QCoreApplication>
-
 namespace {
 
 NSPersistentStoreCoordinator*& defaultCoordinator()
@@ -35,7 +33,7 @@ SQLiteStore& NSPersistentStoreCoordinator::store() const
 {
     if (!m_store) {
         throw NSError(QStringLiteral("NSPersistentStoreErrorDomain"), 1,
-                      QCoreApplication::translate("NSError", "There is no data file."));
+                      ErrorText(QT_TRANSLATE_NOOP("NSError", "There is no data file.")));
     }
     return *m_store;
 }

@@ -6,7 +6,6 @@
 #include "store/StoreFile.h"
 #include "store/StoreSchema.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 #include <SQLiteCpp/SQLiteCpp.h>
 
@@ -42,36 +41,34 @@ std::pair<double, double> readableRange(NSAttributeType type)
     return {-largestNumber, largestNumber};
 }
 
-QString errorText(int code)
+const char* errorText(int code)
 {
     switch (code & 0xff) {
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
-        return QCoreApplication::translate("NSError",
-                                           "The data file “%1” is in use by another program.");
+        return QT_TRANSLATE_NOOP("NSError", "The data file “%1” is in use by another program.");
     case SQLITE_CORRUPT:
-        return QCoreApplication::translate("NSError", "The data file “%1” is damaged.");
+        return QT_TRANSLATE_NOOP("NSError", "The data file “%1” is damaged.");
     case SQLITE_NOTADB:
-        return QCoreApplication::translate("NSError", "The file “%1” is not a Corvane data file.");
+        return QT_TRANSLATE_NOOP("NSError", "The file “%1” is not a Corvane data file.");
     case SQLITE_FULL:
-        return QCoreApplication::translate("NSError",
-                                           "There is no room left to save to the data file “%1”.");
+        return QT_TRANSLATE_NOOP("NSError", "There is no room left to save to the data file “%1”.");
     case SQLITE_READONLY:
     case SQLITE_PERM:
     case SQLITE_AUTH:
-        return QCoreApplication::translate("NSError", "The data file “%1” cannot be written.");
+        return QT_TRANSLATE_NOOP("NSError", "The data file “%1” cannot be written.");
     case SQLITE_CANTOPEN:
-        return QCoreApplication::translate("NSError", "The data file “%1” could not be opened.");
+        return QT_TRANSLATE_NOOP("NSError", "The data file “%1” could not be opened.");
     default:
-        return QCoreApplication::translate("NSError",
-                                           "The data file “%1” could not be read or written.");
+        return QT_TRANSLATE_NOOP("NSError", "The data file “%1” could not be read or written.");
     }
 }
 
 NSError storeError(const QString& fileName, int code)
 {
-    return {QStringLiteral("NSSQLiteErrorDomain"), code, errorText(code).arg(fileName),
-            QString::fromUtf8(sqlite3_errstr(code)) + u'.'};
+    return {QStringLiteral("NSSQLiteErrorDomain"), code, ErrorText(errorText(code), fileName),
+            ErrorText(QT_TRANSLATE_NOOP("NSError", "SQLite reports: %1."),
+                      QString::fromUtf8(sqlite3_errstr(code)))};
 }
 
 std::optional<double> finiteNumber(const SQLite::Column& column)
@@ -280,9 +277,9 @@ void SQLiteStore::checkContent(const NSManagedObjectModel& model, qint64 fileSiz
     }
     const auto versionError = [this] {
         return NSError(QStringLiteral("NSPersistentStoreErrorDomain"), 3,
-                       QCoreApplication::translate(
-                           "NSError", "The data file “%1” was made by another version.")
-                           .arg(m_fileName));
+                       ErrorText(QT_TRANSLATE_NOOP(
+                                     "NSError", "The data file “%1” was made by another version."),
+                                 m_fileName));
     };
     if (!m_database->tableExists("Metadata")) {
         throw versionError();

@@ -3,7 +3,6 @@
 #include "store/NSError.h"
 #include "store/StoreSchema.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QtEndian>
@@ -25,12 +24,10 @@ constexpr char rollbackJournal = 1;
 constexpr qsizetype userVersionOffset = 60;
 constexpr qsizetype applicationIDOffset = 68;
 
-[[noreturn]] void fail(const QString& path, const char* description, const QString& reason)
+[[noreturn]] void fail(const QString& path, const char* description, const ErrorText& reason)
 {
-    throw NSError(
-        QStringLiteral("NSPersistentStoreErrorDomain"), 2,
-        QCoreApplication::translate("NSError", description).arg(QFileInfo(path).fileName()),
-        reason);
+    throw NSError(QStringLiteral("NSPersistentStoreErrorDomain"), 2,
+                  ErrorText(description, QFileInfo(path).fileName()), reason);
 }
 
 void create(const QString& path)
@@ -39,7 +36,7 @@ void create(const QString& path)
                                   O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
     if (descriptor < 0) {
         fail(path, QT_TRANSLATE_NOOP("NSError", "The data file “%1” could not be made."),
-             qt_error_string(errno));
+             ErrorText::verbatim(qt_error_string(errno)));
     }
     ::close(descriptor);
 }
@@ -77,20 +74,20 @@ Content prepare(const QString& path, std::uint32_t formatVersion)
     }
     if (!info.isFile()) {
         fail(path, QT_TRANSLATE_NOOP("NSError", "The data file “%1” could not be opened."),
-             QCoreApplication::translate("NSError", "It is not a file."));
+             ErrorText(QT_TRANSLATE_NOOP("NSError", "It is not a file.")));
     }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         fail(path, QT_TRANSLATE_NOOP("NSError", "The data file “%1” could not be opened."),
-             file.errorString());
+             ErrorText::verbatim(file.errorString()));
     }
     if (isWriteProtected(path)) {
         fail(path, QT_TRANSLATE_NOOP("NSError", "The data file “%1” could not be opened."),
-             QCoreApplication::translate("NSError", "It is write-protected."));
+             ErrorText(QT_TRANSLATE_NOOP("NSError", "It is write-protected.")));
     }
     if (isInWriteProtectedFolder(path)) {
         fail(path, QT_TRANSLATE_NOOP("NSError", "The data file “%1” could not be opened."),
-             QCoreApplication::translate("NSError", "Its folder is write-protected."));
+             ErrorText(QT_TRANSLATE_NOOP("NSError", "Its folder is write-protected.")));
     }
     if (file.size() == 0) {
         file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);

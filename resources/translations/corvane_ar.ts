@@ -201,14 +201,6 @@
 <context>
     <name>Corvane_AppDelegate</name>
     <message>
-        <source>Failed to initialize the store</source>
-        <translation>تعذّر فتح البيانات</translation>
-    </message>
-    <message>
-        <source>There was an error building up the data file.</source>
-        <translation>حدث خطأ أثناء تجهيز ملف البيانات.</translation>
-    </message>
-    <message>
         <source>Could not save changes while quitting. Quit anyway?</source>
         <translation>تعذّر حفظ التغييرات عند الإنهاء. هل تريد الإنهاء على أي حال؟</translation>
     </message>
@@ -514,6 +506,22 @@
         <source>Its folder is write-protected.</source>
         <translation>مجلده محمي من الكتابة.</translation>
     </message>
+    <message>
+        <source>Failed to initialize the store</source>
+        <translation>تعذّر فتح البيانات</translation>
+    </message>
+    <message>
+        <source>There was an error building up the data file.</source>
+        <translation>حدث خطأ أثناء تجهيز ملف البيانات.</translation>
+    </message>
+    <message>
+        <source>The file “%1” could not be locked for Corvane alone.</source>
+        <translation>تعذّر قفل الملف «%1» لبرنامج Corvane وحده.</translation>
+    </message>
+    <message>
+        <source>SQLite reports: %1.</source>
+        <translation>أبلغ SQLite: %1.</translation>
+    </message>
 </context>
 <context>
     <name>NumberField</name>
@@ -713,12 +721,9 @@
         <source>Unable to look for a newer version</source>
         <translation>تعذّر البحث عن إصدار أحدث</translation>
     </message>
-</context>
-<context>
-    <name>main</name>
     <message>
-        <source>The data file could not be locked for Corvane alone.</source>
-        <translation>تعذّر قفل ملف البيانات لبرنامج Corvane وحده.</translation>
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
     </message>
 </context>
 </TS>

@@ -201,14 +201,6 @@
 <context>
     <name>Corvane_AppDelegate</name>
     <message>
-        <source>Failed to initialize the store</source>
-        <translation>Die Daten konnten nicht geöffnet werden</translation>
-    </message>
-    <message>
-        <source>There was an error building up the data file.</source>
-        <translation>Beim Anlegen der Datendatei ist ein Fehler aufgetreten.</translation>
-    </message>
-    <message>
         <source>Could not save changes while quitting. Quit anyway?</source>
         <translation>Die Änderungen konnten beim Beenden nicht gesichert werden. Trotzdem beenden?</translation>
     </message>
@@ -510,6 +502,22 @@
         <source>Its folder is write-protected.</source>
         <translation>Ihr Ordner ist schreibgeschützt.</translation>
     </message>
+    <message>
+        <source>Failed to initialize the store</source>
+        <translation>Die Daten konnten nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>There was an error building up the data file.</source>
+        <translation>Beim Anlegen der Datendatei ist ein Fehler aufgetreten.</translation>
+    </message>
+    <message>
+        <source>The file “%1” could not be locked for Corvane alone.</source>
+        <translation>Die Datei „%1“ konnte nicht für Corvane allein gesperrt werden.</translation>
+    </message>
+    <message>
+        <source>SQLite reports: %1.</source>
+        <translation>SQLite meldet: %1.</translation>
+    </message>
 </context>
 <context>
     <name>NumberField</name>
@@ -709,12 +717,9 @@
         <source>Unable to look for a newer version</source>
         <translation>Nach einer neueren Version kann nicht gesucht werden</translation>
     </message>
-</context>
-<context>
-    <name>main</name>
     <message>
-        <source>The data file could not be locked for Corvane alone.</source>
-        <translation>Die Datendatei konnte nicht für Corvane allein gesperrt werden.</translation>
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
     </message>
 </context>
 </TS>

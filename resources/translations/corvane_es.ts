@@ -201,14 +201,6 @@
 <context>
     <name>Corvane_AppDelegate</name>
     <message>
-        <source>Failed to initialize the store</source>
-        <translation>No se han podido abrir los datos</translation>
-    </message>
-    <message>
-        <source>There was an error building up the data file.</source>
-        <translation>Se ha producido un error al preparar el archivo de datos.</translation>
-    </message>
-    <message>
         <source>Could not save changes while quitting. Quit anyway?</source>
         <translation>No se han podido guardar los cambios al salir. ¿Salir de todos modos?</translation>
     </message>
@@ -510,6 +502,22 @@
         <source>Its folder is write-protected.</source>
         <translation>Su carpeta está protegida contra escritura.</translation>
     </message>
+    <message>
+        <source>Failed to initialize the store</source>
+        <translation>No se han podido abrir los datos</translation>
+    </message>
+    <message>
+        <source>There was an error building up the data file.</source>
+        <translation>Se ha producido un error al preparar el archivo de datos.</translation>
+    </message>
+    <message>
+        <source>The file “%1” could not be locked for Corvane alone.</source>
+        <translation>No se ha podido bloquear el archivo «%1» solo para Corvane.</translation>
+    </message>
+    <message>
+        <source>SQLite reports: %1.</source>
+        <translation>SQLite informa: %1.</translation>
+    </message>
 </context>
 <context>
     <name>NumberField</name>
@@ -709,12 +717,9 @@
         <source>Unable to look for a newer version</source>
         <translation>No se puede buscar una versión más reciente</translation>
     </message>
-</context>
-<context>
-    <name>main</name>
     <message>
-        <source>The data file could not be locked for Corvane alone.</source>
-        <translation>No se ha podido bloquear el archivo de datos solo para Corvane.</translation>
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
     </message>
 </context>
 </TS>

@@ -201,14 +201,6 @@
 <context>
     <name>Corvane_AppDelegate</name>
     <message>
-        <source>Failed to initialize the store</source>
-        <translation>Impossible d’ouvrir les données</translation>
-    </message>
-    <message>
-        <source>There was an error building up the data file.</source>
-        <translation>Une erreur est survenue lors de la préparation du fichier de données.</translation>
-    </message>
-    <message>
         <source>Could not save changes while quitting. Quit anyway?</source>
         <translation>Impossible d’enregistrer les modifications avant de quitter. Quitter quand même&#xa0;?</translation>
     </message>
@@ -510,6 +502,22 @@
         <source>Its folder is write-protected.</source>
         <translation>Son dossier est protégé en écriture.</translation>
     </message>
+    <message>
+        <source>Failed to initialize the store</source>
+        <translation>Impossible d’ouvrir les données</translation>
+    </message>
+    <message>
+        <source>There was an error building up the data file.</source>
+        <translation>Une erreur est survenue lors de la préparation du fichier de données.</translation>
+    </message>
+    <message>
+        <source>The file “%1” could not be locked for Corvane alone.</source>
+        <translation>Le fichier «&#xa0;%1&#xa0;» n’a pas pu être verrouillé pour Corvane seul.</translation>
+    </message>
+    <message>
+        <source>SQLite reports: %1.</source>
+        <translation>SQLite signale&#xa0;: %1.</translation>
+    </message>
 </context>
 <context>
     <name>NumberField</name>
@@ -709,12 +717,9 @@
         <source>Unable to look for a newer version</source>
         <translation>Impossible de rechercher une version plus récente</translation>
     </message>
-</context>
-<context>
-    <name>main</name>
     <message>
-        <source>The data file could not be locked for Corvane alone.</source>
-        <translation>Le fichier de données n’a pas pu être verrouillé pour Corvane seul.</translation>
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
     </message>
 </context>
 </TS>

@@ -201,14 +201,6 @@
 <context>
     <name>Corvane_AppDelegate</name>
     <message>
-        <source>Failed to initialize the store</source>
-        <translation>无法打开数据</translation>
-    </message>
-    <message>
-        <source>There was an error building up the data file.</source>
-        <translation>准备数据文件时出错。</translation>
-    </message>
-    <message>
         <source>Could not save changes while quitting. Quit anyway?</source>
         <translation>退出时无法保存更改。仍要退出吗？</translation>
     </message>
@@ -509,6 +501,22 @@
         <source>Its folder is write-protected.</source>
         <translation>它所在的文件夹是只读的。</translation>
     </message>
+    <message>
+        <source>Failed to initialize the store</source>
+        <translation>无法打开数据</translation>
+    </message>
+    <message>
+        <source>There was an error building up the data file.</source>
+        <translation>准备数据文件时出错。</translation>
+    </message>
+    <message>
+        <source>The file “%1” could not be locked for Corvane alone.</source>
+        <translation>无法为 Corvane 独占锁定文件“%1”。</translation>
+    </message>
+    <message>
+        <source>SQLite reports: %1.</source>
+        <translation>SQLite 报告：%1。</translation>
+    </message>
 </context>
 <context>
     <name>NumberField</name>
@@ -708,12 +716,9 @@
         <source>Unable to look for a newer version</source>
         <translation>无法查找更新的版本</translation>
     </message>
-</context>
-<context>
-    <name>main</name>
     <message>
-        <source>The data file could not be locked for Corvane alone.</source>
-        <translation>无法为 Corvane 独占锁定数据文件。</translation>
+        <source>%1. %2</source>
+        <translation>%1。%2</translation>
     </message>
 </context>
 </TS>

@@ -255,7 +255,7 @@ TEST(StoreLock, refusesWhatIsNoFileOfItsOwn)
     const auto refused = [&directory] {
         StoreLock lock(directory.path());
         return lock.acquire() == StoreLock::State::Unavailable && lock.storeName().isEmpty() &&
-               !lock.errorText().isEmpty();
+               !lock.errorText().localized().isEmpty();
     };
     ASSERT_EQ(::mkdir(path.constData(), 0700), 0);
     EXPECT_TRUE(refused());

@@ -1,10 +1,12 @@
 #include "app/Translation.h"
 
+#include "app/AboutBox.h"
 #include "editors/CVCardPopoverController.h"
 #include "editors/CVStatementPopoverController.h"
 #include "foundation/Clock.h"
 #include "foundation/RelativeDateFormatter.h"
 #include "mainwindow/MainWindowController.h"
+#include "store/NSError.h"
 #include "tests/support/CardStore.h"
 #include "tests/support/EditorPopover.h"
 #include "tests/support/Utc.h"
@@ -127,7 +129,7 @@ TEST_P(TranslationTest, NoTextIsCutOffInTheSmallestWindow)
     expectRoomForTexts(window);
 }
 
-TEST_P(TranslationTest, NoTextIsCutOffInTheEditors)
+TEST_P(TranslationTest, NoTextIsCutOffInTheEditorsAndTheAboutBox)
 {
     CVCardPopoverController cardEditor;
     CVStatementPopoverController statementEditor;
@@ -139,6 +141,10 @@ TEST_P(TranslationTest, NoTextIsCutOffInTheEditors)
         expectRoomForTexts(editor->view());
         expectRoomInLine(editor->view(), GetParam() != std::string("en"));
     }
+    AboutBox about(store.path(), nullptr);
+    about.show();
+    QCoreApplication::processEvents();
+    expectRoomForTexts(about);
 }
 
 TEST_P(TranslationTest, DatesAreReadInItsWords)
@@ -175,4 +181,7 @@ TEST(TranslationsTest, ThereIsOneForEachLanguageAndNoneForAnother)
     EXPECT_EQ(QCoreApplication::translate("CVCardPopover", "Cancel"), u"Cancel"_qs);
     const Translation german(QStringLiteral("de"));
     EXPECT_EQ(QCoreApplication::translate("CVCardPopover", "Cancel"), u"Abbrechen"_qs);
+    const NSError error(u"Domain"_qs, 1, ErrorText("The data file “%1” is damaged.", u"a %1"_qs));
+    EXPECT_EQ(error.localizedDescription(), u"Die Datendatei „a %1“ ist beschädigt."_qs);
+    EXPECT_STREQ(error.what(), "The data file “a %1” is damaged. (Domain, 1)") << "for the log";
 }

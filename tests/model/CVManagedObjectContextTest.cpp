@@ -95,8 +95,9 @@ TEST_F(CVManagedObjectContextTest, LogsFailuresAndAnswersNeutrally)
     store.insertCard(u"Unsaved"_qs);
     EXPECT_FALSE(saveAndLogError(reopened));
     EXPECT_TRUE(reopened.hasChanges());
-    const QString reason = u"The data file “storedata.sqlite” could not be read or written. "
-                           u"SQL logic error. (NSSQLiteErrorDomain, 1)"_qs;
+    const QString reason =
+        u"The data file “storedata.sqlite” could not be read or written. SQLite reports: "
+        u"SQL logic error. (NSSQLiteErrorDomain, 1)"_qs;
     EXPECT_EQ(log.lines(), QStringList({
                                u"Unable to fetch cards with statements: " + reason,
                                u"Unable to fetch cards with statements: " + reason,
