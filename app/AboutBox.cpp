@@ -7,6 +7,7 @@
 
 #include <QGuiApplication>
 #include <QIcon>
+#include <QStyle>
 
 namespace {
 
@@ -34,6 +35,13 @@ AboutBox::AboutBox(const QString& storePath, QWidget* parent)
                                       .arg(QString::fromLatin1(qVersion()),
                                            RegionalSettings::libraryVersion(),
                                            SQLiteStore::libraryVersion()));
+    // A label would begin where its own text does: names in Latin letters at the far side of a
+    // mirrored window.
+    const auto alignment =
+        QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter);
+    for (auto* const label : {m_ui->nameLabel, m_ui->licenceLabel, m_ui->librariesLabel}) {
+        label->setAlignment(alignment | Qt::AlignAbsolute);
+    }
     m_ui->storeField->setText(storePath);
     m_ui->storeField->setCursorPosition(0);
     m_ui->problemLabel->hide();
