@@ -259,18 +259,19 @@ void confirm(benchmark::State& state, const StoreGenerator::Size& size)
     SQLite::Statement insertion(
         bare, "INSERT INTO Statement (card, date, balance, \"limit\", payment,"
               " annualPercentageRate) VALUES (1, 1750000000, '250.00', '5000', '50', 0.199)");
+    QImage image(windowSize, QImage::Format_ARGB32_Premultiplied);
     int number = 0;
     SideBySide::run(
         state,
         [&] {
             controller.statementPopoverController().addOrUpdateStatement();
+            QCoreApplication::sendPostedEvents();
             paintUpdates(program.window());
         },
         [&] {
             insertion.exec();
             insertion.reset();
-            program.window().update();
-            paintUpdates(program.window());
+            paint(program.window(), image);
             benchmark::DoNotOptimize(controller.formattedTotals());
         },
         [&] {

@@ -23,6 +23,7 @@
 namespace {
 
 constexpr auto restoreTimelineGeometryNotification = "CVRestoreTimelineGeometryNotification";
+constexpr auto totalsNotification = "CVShowTotals";
 constexpr auto newCardNotification = "CVShowNewCardPopoverIfNeeded";
 
 /// The height of every row, of the cards' list and of the timeline, in points.
@@ -280,17 +281,22 @@ void MainWindowController::setUpPanels()
 
 void MainWindowController::setUpTotals()
 {
-    const auto showTotals = [this] {
-        m_ui->totalsLabel->setText(formattedTotals());
-    };
-    m_observations.push_back(
-        observe("formattedTotals", [showTotals](const ObservedChange&) { showTotals(); }));
+    // One command announces them several times, and each reading asks every card.
+    handle(totalsNotification, &MainWindowController::showTotals);
+    m_observations.push_back(observe("formattedTotals", [this](const ObservedChange&) {
+        m_notifications.enqueue(totalsNotification);
+    }));
     for (const auto* const key : {"canAddStatement", "canScale", "selectedStatement"}) {
         m_observations.push_back(observe(key, [this](const ObservedChange&) {
             Q_EMIT m_window->userInterfaceItemsDidChange();
         }));
     }
     showTotals();
+}
+
+void MainWindowController::showTotals()
+{
+    m_ui->totalsLabel->setText(formattedTotals());
 }
 
 void MainWindowController::showContext()

@@ -198,6 +198,7 @@ private:
     void setUpTables();
     void setUpZoom();
     void setUpTotals();
+    void showTotals();
     void restoreWindowFrame();
     void showContext();
     void contextObjectsDidChange();
