@@ -65,8 +65,10 @@ void CVStatementPopoverController::bindFields()
     });
 
     observeOwn("canAddStatementForDate", [this] {
-        m_ui->okButton->setEnabled(canAddStatementForDate());
-        updateLine();
+        // The reason is for whoever asks the button.
+        const auto refusal = dateRefusal();
+        m_ui->okButton->setEnabled(refusal.isEmpty());
+        m_ui->okButton->setToolTip(refusal);
     });
 }
 
@@ -204,13 +206,9 @@ bool CVStatementPopoverController::isTargetGone() const
            (m_originalStatement && m_originalStatement->isDeleted());
 }
 
-/// What keeps the form from being confirmed; else what the numbers mean as they stand there, with
-/// the date that is typed.
+/// What the numbers mean as they stand in the form, with the date that is typed there.
 QString CVStatementPopoverController::lineText() const
 {
-    if (const auto refusal = m_statement ? dateRefusal() : QString(); !refusal.isEmpty()) {
-        return refusal;
-    }
     const bool isReadable = m_ui->balanceField->isReadable() && m_ui->paymentField->isReadable() &&
                             m_ui->rateField->isReadable();
     if (!m_statement || !isReadable) {

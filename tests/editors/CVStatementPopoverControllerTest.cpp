@@ -184,10 +184,13 @@ TEST_F(CVStatementPopoverControllerTest, TheLineSaysWhatTheTypedNumbersMean)
           {u"15/03/2014"_qs, u"This date is still to come."_qs},
           {u"20/06/2013"_qs, u"This month has a statement already."_qs}}) {
         field(u"dateField"_qs).setText(date);
-        EXPECT_EQ(line(), reason);
         EXPECT_FALSE(okButton().isEnabled());
+        EXPECT_EQ(okButton().toolTip(), reason) << "and there is no other message";
     }
+    field(u"dateField"_qs).clear();
+    EXPECT_EQ(line(), QString());
     field(u"dateField"_qs).setText(u"15/03/2013"_qs);
+    EXPECT_EQ(okButton().toolTip(), QString());
     field(u"balanceField"_qs).clear();
     EXPECT_EQ(line(), QString());
     EXPECT_EQ(editor.statement()->balance(), std::nullopt);
