@@ -92,7 +92,7 @@ void MainWindowController::tickleCanScale()
 
 bool MainWindowController::timelineIsEmpty() const
 {
-    return !m_context || CVManagedObjectContext::statementCount(*m_context) == 0;
+    return !m_context || !CVManagedObjectContext::hasStatements(*m_context);
 }
 
 void MainWindowController::magnifyWithEvent(double magnification)

@@ -19,13 +19,15 @@ constexpr double margins = 16.0;
 /// Seconds per point when there is no span to show.
 constexpr double scaleWithoutSpan = 43200.0;
 
-std::size_t countRecords(NSManagedObjectContext& context, const char* entity, const QString& plural)
+/// What `count` answers; nothing, that is 0 or false, when the store fails.
+template <typename Count>
+auto orNothing(const Count& count, const QString& plural) -> decltype(count())
 {
     try {
-        return context.countForFetchRequest({entity});
+        return count();
     } catch (const NSError& error) {
         Log::line(QString(u"Unable to count " + plural + u": " + error.description()));
-        return 0;
+        return {};
     }
 }
 
@@ -79,12 +81,20 @@ double timeIntervalPerPointInCellFrame(NSManagedObjectContext& context, const QR
 
 std::size_t cardCount(NSManagedObjectContext& context)
 {
-    return countRecords(context, "Card", QStringLiteral("cards"));
+    return orNothing([&] { return context.countForFetchRequest({"Card"}); },
+                     QStringLiteral("cards"));
 }
 
 std::size_t statementCount(NSManagedObjectContext& context)
 {
-    return countRecords(context, "Statement", QStringLiteral("statements"));
+    return orNothing([&] { return context.countForFetchRequest({"Statement"}); },
+                     QStringLiteral("statements"));
+}
+
+bool hasStatements(NSManagedObjectContext& context)
+{
+    return orNothing([&] { return context.hasObjectsForFetchRequest({"Statement"}); },
+                     QStringLiteral("statements"));
 }
 
 std::optional<std::vector<CVCard*>> allCardsWithStatements(NSManagedObjectContext& context)

@@ -39,6 +39,8 @@ double timeIntervalPerPointInCellFrame(NSManagedObjectContext& context, const QR
 /// Unsaved records count. 0 on failure.
 std::size_t cardCount(NSManagedObjectContext& context);
 std::size_t statementCount(NSManagedObjectContext& context);
+/// Whether statementCount() is not 0, without counting.
+bool hasStatements(NSManagedObjectContext& context);
 
 /// Every card, with or without statements, in the store's order. Absent on failure.
 std::optional<std::vector<CVCard*>> allCardsWithStatements(NSManagedObjectContext& context);

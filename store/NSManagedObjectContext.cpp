@@ -225,15 +225,29 @@ NSManagedObjectContext::executeFetchRequest(const NSFetchRequest& request)
 std::size_t NSManagedObjectContext::countForFetchRequest(const NSFetchRequest& request)
 {
     const auto& entity = m_coordinator.managedObjectModel().entityNamed(request.entityName);
-    auto count = store().countRows(entity);
+    const auto [inserted, deleted] = countUnsaved(entity);
+    return store().countRows(entity) + inserted - deleted;
+}
+
+bool NSManagedObjectContext::hasObjectsForFetchRequest(const NSFetchRequest& request)
+{
+    const auto& entity = m_coordinator.managedObjectModel().entityNamed(request.entityName);
+    const auto [inserted, deleted] = countUnsaved(entity);
+    return inserted > 0 || store().hasMoreRowsThan(deleted, entity);
+}
+
+NSManagedObjectContext::UnsavedCount
+NSManagedObjectContext::countUnsaved(const NSEntityDescription& entity) const
+{
+    UnsavedCount count;
     for (const auto* const record : m_touched) {
         if (&record->entity() != &entity) {
             continue;
         }
         if (record->isInserted()) {
-            ++count;
+            ++count.inserted;
         } else if (record->isDeleted() && record->hasState(NSManagedObject::Persisted)) {
-            --count;
+            ++count.deleted;
         }
     }
     return count;

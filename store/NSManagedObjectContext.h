@@ -89,6 +89,8 @@ public:
     std::vector<NSManagedObject*> executeFetchRequest(const NSFetchRequest& request);
     /// How many records executeFetchRequest() would answer.
     std::size_t countForFetchRequest(const NSFetchRequest& request);
+    /// Whether it would answer any. Does not count them.
+    bool hasObjectsForFetchRequest(const NSFetchRequest& request);
     /// The result of a fetch for values instead of records: one row, by name. The file computes
     /// them, so unsaved changes are not seen; a value over no records is absent.
     std::map<std::string, PropertyValue>
@@ -119,6 +121,14 @@ Q_SIGNALS:
 private:
     friend class NSManagedObject;
     friend class RecordTable;
+
+    /// What is new and what is gone since the last save.
+    struct UnsavedCount
+    {
+        std::size_t inserted = 0;
+        std::size_t deleted = 0;
+    };
+    UnsavedCount countUnsaved(const NSEntityDescription& entity) const;
 
     SQLiteStore& store() const;
     RecordTable& table(const NSEntityDescription& entity) const;

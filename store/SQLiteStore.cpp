@@ -312,6 +312,16 @@ std::size_t SQLiteStore::countRows(const NSEntityDescription& entity)
     });
 }
 
+bool SQLiteStore::hasMoreRowsThan(std::size_t count, const NSEntityDescription& entity)
+{
+    return guarded([&] {
+        auto query =
+            statement("SELECT 1 FROM " + StoreSchema::quoted(entity.name()) + " LIMIT 1 OFFSET ?");
+        query->bind(1, static_cast<std::int64_t>(count));
+        return query->executeStep();
+    });
+}
+
 bool SQLiteStore::hasRow(const NSEntityDescription& entity, std::int64_t id)
 {
     return guarded([&] {

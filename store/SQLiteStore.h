@@ -71,6 +71,8 @@ public:
     SQLiteStore& operator=(const SQLiteStore&) = delete;
 
     std::size_t countRows(const NSEntityDescription& entity);
+    /// Whether there are more rows than `count`; as cheap as that number is small.
+    bool hasMoreRowsThan(std::size_t count, const NSEntityDescription& entity);
     bool hasRow(const NSEntityDescription& entity, std::int64_t id);
     /// Whether there is such a row. `handler` is called with it.
     bool fetchRow(const NSEntityDescription& entity, std::int64_t id, const RowHandler& handler);

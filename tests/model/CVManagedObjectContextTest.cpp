@@ -73,7 +73,10 @@ TEST_F(CVManagedObjectContextTest, CountsAndTotalsIncludeWhatIsUnsaved)
     context.deleteObject(first);
     EXPECT_EQ(cardCount(context), 2U);
     EXPECT_EQ(statementCount(context), 1U);
+    EXPECT_TRUE(hasStatements(context)) << "one is new";
     EXPECT_EQ(totalDebtAndCredit(context), (std::array{-0.25, 20.0}));
+    context.deleteObject(second);
+    EXPECT_FALSE(hasStatements(context)) << "what the file still has is deleted";
 }
 
 TEST_F(CVManagedObjectContextTest, LogsFailuresAndAnswersNeutrally)
