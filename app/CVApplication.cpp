@@ -65,12 +65,16 @@ bool hasDesktopSettings()
            qEnvironmentVariableIsSet("QT_QPA_PLATFORMTHEME");
 }
 
-/// The palette's colours are light, so everything beside them has to be.
-QPalette lightPalette()
+/// The window's own colours are light, so everything beside them has to be.
+QPalette lightPalette(bool hasHighContrast)
 {
     QPalette palette(QColor(0xEF, 0xEF, 0xEF));
-    palette.setColor(QPalette::Highlight, QColor(0x2B, 0x6C, 0xB0));
+    palette.setColor(QPalette::Highlight,
+                     hasHighContrast ? QColor(0x0B, 0x3F, 0x7A) : QColor(0x2B, 0x6C, 0xB0));
     palette.setColor(QPalette::HighlightedText, Qt::white);
+    if (hasHighContrast) {
+        palette.setColor(QPalette::PlaceholderText, QColor(0x44, 0x44, 0x44));
+    }
     return palette;
 }
 
@@ -91,15 +95,23 @@ QIcon programIcon()
 CVApplication::CVApplication(int& argc, char** argv)
     : QApplication(argc, argv)
     , m_translation(Translation::preferredLanguage())
+    , m_style(new PanelStyle)
 {
     AccessibleRowList::installFactory();
-    setStyle(new PanelStyle);
-    setPalette(lightPalette());
+    setStyle(m_style);
+    setPalette(lightPalette(false));
     setWindowIcon(programIcon());
     const auto fallbackFamily = QStringLiteral("Inter");
     if (!hasDesktopSettings() && QFontDatabase::hasFamily(fallbackFamily)) {
         setFont(QFont(fallbackFamily, font().pointSize()));
     }
+}
+
+void CVApplication::setAppearance(bool reducesMotion, bool hasHighContrast)
+{
+    m_style->setAnimated(!reducesMotion);
+    setPalette(lightPalette(hasHighContrast));
+    m_style->setHighContrast(hasHighContrast);
 }
 
 QObject* CVApplication::targetForAction(const QByteArray& action, QObject* to, QObject* from) const

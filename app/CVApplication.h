@@ -6,6 +6,7 @@
 #include <QByteArray>
 
 class CVMainWindow;
+class PanelStyle;
 class QKeyEvent;
 
 /// The application: it sends the commands of menus and keys to whom they concern.
@@ -30,6 +31,10 @@ public:
     QObject* targetForAction(const QByteArray& action, QObject* to, QObject* from) const;
     /// Sends `action` there. False when nobody carries it out.
     bool sendAction(const QByteArray& action, QObject* to, QObject* from) const;
+
+    /// Whether what would move is there at once, and whether texts and borders stand out more than
+    /// usual. As at first: neither. What is on the screen follows.
+    void setAppearance(bool reducesMotion, bool hasHighContrast);
 
     /// Lets each menu item of the window send its action, and be enabled only while somebody
     /// carries that out and finds that it makes sense.
@@ -59,5 +64,7 @@ private:
     static bool isUndoOrRedoKey(const QEvent& event);
 
     Translation m_translation;
+    /// The application's.
+    PanelStyle* m_style;
     QObject* m_delegate = nullptr;
 };

@@ -4,6 +4,7 @@
 #include "app/CommandLine.h"
 #include "app/Corvane_AppDelegate.h"
 #include "app/DemoStore.h"
+#include "app/DesktopAppearance.h"
 #include "app/DialogPresenter.h"
 #include "app/LogPresenter.h"
 #include "app/Snapshot.h"
@@ -165,6 +166,15 @@ int runApplication(CVApplication& application, const CommandLine& commandLine,
         if (auto* const context = delegate.managedObjectContext()) {
             DemoStore::fill(*context);
         }
+    }
+    std::optional<DesktopAppearance> appearance;
+    if (const auto bus = isSnapshot ? std::nullopt : ApplicationService::sessionBus()) {
+        appearance.emplace(*bus);
+        QObject::connect(&*appearance, &DesktopAppearance::didChange, &application,
+                         [&application, &appearance] {
+                             application.setAppearance(appearance->reducesMotion(),
+                                                       appearance->hasHighContrast());
+                         });
     }
     // An alert that closes before the window is shown is not the last window.
     QGuiApplication::setQuitOnLastWindowClosed(false);

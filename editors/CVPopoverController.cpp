@@ -2,6 +2,7 @@
 
 #include "editors/TypedTextGuard.h"
 #include "store/NSManagedObjectContext.h"
+#include "widgets/HighContrast.h"
 #include "widgets/NSPopover.h"
 #include "widgets/StyledTextField.h"
 
@@ -26,7 +27,7 @@ constexpr QColor reasonColor(0xC8, 0x32, 0x2B);
 void setTextColor(QWidget& widget, const QColor& color)
 {
     QPalette palette = widget.palette();
-    palette.setColor(QPalette::WindowText, color);
+    palette.setColor(QPalette::WindowText, HighContrast::ink(color));
     widget.setPalette(palette);
 }
 
@@ -149,6 +150,10 @@ void CVPopoverController::observeOwn(std::string_view keyPath, const std::functi
 
 bool CVPopoverController::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched == m_view.get() && event->type() == QEvent::StyleChange) {
+        setTextColor(*m_view, labelColor);
+        updateLine();
+    }
     // The keys that the fields and buttons had no use for.
     if (watched == m_view.get() && event->type() == QEvent::KeyPress) {
         const auto& key = static_cast<const QKeyEvent&>(*event);

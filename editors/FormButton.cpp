@@ -1,6 +1,7 @@
 #include "editors/FormButton.h"
 
 #include "widgets/ButtonFace.h"
+#include "widgets/HighContrast.h"
 #include "widgets/PixelSnapping.h"
 #include "widgets/RoundedRing.h"
 
@@ -74,7 +75,7 @@ void FormButton::paintEvent(QPaintEvent* /*event*/)
     painter.setPen(Qt::NoPen);
     painter.setBrush(face.gradient(box));
     painter.drawRoundedRect(box, cornerRadius, cornerRadius);
-    RoundedRing::draw(painter, box, cornerRadius, 1.0, face.border);
+    RoundedRing::draw(painter, box, cornerRadius, 1.0, HighContrast::ink(face.border));
 
     painter.setPen(face.ink);
     painter.setFont(titleFont());

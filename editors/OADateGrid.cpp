@@ -5,6 +5,7 @@
 #include "foundation/Calendar.h"
 #include "foundation/Clock.h"
 #include "foundation/DateFormatter.h"
+#include "widgets/HighContrast.h"
 #include "widgets/PixelSnapping.h"
 #include "widgets/RoundedRing.h"
 
@@ -295,7 +296,7 @@ void OADateGrid::drawWeekdays(QPainter& painter, const OADateMonth& month) const
 {
     const QFontMetrics metrics(weekdayFont());
     painter.setFont(weekdayFont());
-    painter.setPen(OADateInk::weekday);
+    painter.setPen(HighContrast::ink(OADateInk::weekday));
     for (int column = 0; column < OADateMonth::daysPerWeek; ++column) {
         // Any day of the column will do, the first ones may be missing.
         for (int place = column; place < OADateMonth::numberOfPlaces;
@@ -344,7 +345,7 @@ void OADateGrid::drawDay(QPainter& painter, const OADateMonth& month, int place)
     painter.setPen(isSelected      ? OADateInk::selectedDay
                    : isToday       ? OADateInk::blue
                    : day.isInMonth ? OADateInk::day
-                                   : OADateInk::otherDay);
+                                   : HighContrast::ink(OADateInk::otherDay));
     painter.drawText(rectOfPlace(place), Qt::AlignCenter, DateFormatter::text(day.start, u"d"_qs));
     painter.restore();
 

@@ -1,6 +1,7 @@
 #include "editors/OADateNavigationButton.h"
 
 #include "editors/OADateInk.h"
+#include "widgets/HighContrast.h"
 #include "widgets/PixelSnapping.h"
 
 #include <QPainter>
@@ -50,7 +51,7 @@ void OADateNavigationButton::paintEvent(QPaintEvent* /*event*/)
 
     const auto ink = !isEnabled()   ? OADateInk::disabled
                      : underMouse() ? OADateInk::blue
-                                    : OADateInk::quiet;
+                                    : HighContrast::ink(OADateInk::quiet);
     const auto middle = QRectF(rect()).center();
     if (m_sign == Sign::Dot) {
         painter.setPen(Qt::NoPen);

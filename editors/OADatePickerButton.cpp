@@ -1,6 +1,7 @@
 #include "editors/OADatePickerButton.h"
 
 #include "editors/OADateInk.h"
+#include "widgets/HighContrast.h"
 #include "widgets/PixelSnapping.h"
 #include "widgets/RoundedRing.h"
 
@@ -41,7 +42,7 @@ void OADatePickerButton::paintEvent(QPaintEvent* /*event*/)
     const bool isStrong = underMouse() || isDown();
     const auto ink = !isEnabled() ? OADateInk::disabled
                      : isStrong   ? OADateInk::blue
-                                  : OADateInk::quiet;
+                                  : HighContrast::ink(OADateInk::quiet);
     const QPointF corner((width() - signSize.width()) / 2.0, (height() - signSize.height()) / 2.0);
     const auto sign = snapping.snappedRect({corner, signSize});
     const auto page = RoundedRing::draw(painter, sign, cornerRadius, 1.0, ink);

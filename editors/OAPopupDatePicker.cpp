@@ -6,6 +6,7 @@
 #include "editors/OADatePickerTextField.h"
 #include "editors/PopupPlacement.h"
 #include "foundation/UserDefaults.h"
+#include "widgets/HighContrast.h"
 #include "widgets/RoundedRing.h"
 
 #include <QGuiApplication>
@@ -121,7 +122,7 @@ void OAPopupDatePicker::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
     painter.fillRect(rect(), OADateInk::paper);
-    RoundedRing::draw(painter, rect(), 0.0, 1.0, OADateInk::border);
+    RoundedRing::draw(painter, rect(), 0.0, 1.0, HighContrast::ink(OADateInk::border));
 }
 
 void OAPopupDatePicker::hideEvent(QHideEvent* event)

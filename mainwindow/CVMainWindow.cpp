@@ -57,6 +57,14 @@ bool CVMainWindow::event(QEvent* event)
     return QMainWindow::event(event);
 }
 
+void CVMainWindow::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::StyleChange || event->type() == QEvent::FontChange) {
+        Q_EMIT appearanceDidChange();
+    }
+}
+
 void CVMainWindow::closeEvent(QCloseEvent* event)
 {
     const bool mayClose = !m_delegate || m_delegate->windowShouldClose();

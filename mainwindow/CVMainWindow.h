@@ -48,9 +48,12 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// Commands may make sense now that did not, or the other way round.
     void userInterfaceItemsDidChange();
+    /// The desktop has another font, or the style stronger or softer colours.
+    void appearanceDidChange();
 
 protected:
     bool event(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;

@@ -179,7 +179,6 @@ void MainWindowController::windowDidLoad()
 
     m_ui->splitView->setMinimumSizes({{0, minimumCardsPaneWidth}});
     m_ui->splitView->setCollapsible(1, false);
-    m_ui->splitView->setDividerColor(CVAdditions::cvPanelDarkerBorderColor());
     m_ui->splitView->setSizes({cardsPaneWidth, m_window->width() - cardsPaneWidth});
     connect(m_ui->splitView, &SplitView::paneCollapsedChanged, m_window.get(),
             &CVMainWindow::userInterfaceItemsDidChange);
@@ -196,6 +195,8 @@ void MainWindowController::windowDidLoad()
     m_scrollAnimation = new HorizontalScrollAnimation(
         *m_ui->timelineScrollView, *m_ui->timelineHeaderScrollView, m_window.get());
     setUpPanels();
+    connect(m_window.get(), &CVMainWindow::appearanceDidChange, this,
+            &MainWindowController::setUpPanels);
     setUpOrder();
     setUpZoom();
     setUpTotals();
@@ -267,6 +268,7 @@ void MainWindowController::setUpPanels()
     setUpPanel(*m_ui->timelineHeaderBaseBox, CVAdditions::cvPanelDarkerBorderColor());
     setUpBottomPanel(*m_ui->buttonBar);
     setUpBottomPanel(*m_ui->totalsBar);
+    m_ui->splitView->setDividerColor(CVAdditions::cvPanelDarkerBorderColor());
 
     const auto titleColor = CVAdditions::cvCardTitleColorForHighlightedState(false);
     const auto subtitleColor = CVAdditions::cvCardSubtitleColorForHighlightedState(false);

@@ -1,6 +1,7 @@
 #include "timeline/CVAdditions.h"
 
 #include "timeline/LabColor.h"
+#include "widgets/HighContrast.h"
 
 namespace {
 
@@ -42,22 +43,22 @@ QColor CVAdditions::cvPanelGradientEndColor()
 
 QColor CVAdditions::cvPanelDarkBorderColor()
 {
-    return colorWithCalibratedRGB(0xC5C5C5);
+    return HighContrast::ink(colorWithCalibratedRGB(0xC5C5C5));
 }
 
 QColor CVAdditions::cvPanelDarkerBorderColor()
 {
-    return colorWithCalibratedRGB(0x999999);
+    return HighContrast::ink(colorWithCalibratedRGB(0x999999));
 }
 
 QColor CVAdditions::cvTimelineHeaderTextColor()
 {
-    return colorWithCalibratedRGB(0x222122);
+    return HighContrast::ink(colorWithCalibratedRGB(0x222122));
 }
 
 QColor CVAdditions::cvTimelineHeaderYearTextColor()
 {
-    return colorWithCalibratedRGB(0x2B5176);
+    return HighContrast::ink(colorWithCalibratedRGB(0x2B5176));
 }
 
 QColor CVAdditions::cvSelectedGlowColor()
@@ -82,12 +83,12 @@ QColor CVAdditions::cvCardBackgroundColorForHighlightedState(bool highlighted)
 
 QColor CVAdditions::cvCardTitleColorForHighlightedState(bool highlighted)
 {
-    return colorWithCalibratedRGB(highlighted ? 0x000000 : 0x444444);
+    return HighContrast::ink(colorWithCalibratedRGB(highlighted ? 0x000000 : 0x444444));
 }
 
 QColor CVAdditions::cvCardSubtitleColorForHighlightedState(bool highlighted)
 {
-    return colorWithCalibratedRGB(highlighted ? 0x666666 : 0x888888);
+    return HighContrast::ink(colorWithCalibratedRGB(highlighted ? 0x666666 : 0x888888));
 }
 
 QColor CVAdditions::cvTimelineBorderColorForHighlightedState(bool highlighted)

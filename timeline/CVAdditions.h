@@ -4,7 +4,8 @@
 
 #include <QColor>
 
-/// The palette: every colour of the main window that is not the desktop's own.
+/// The palette: every colour of the main window that is not the desktop's own. Texts and the
+/// borders of panels are darker where the person asks for high contrast.
 namespace CVAdditions {
 
 QColor cvPanelGradientStartColor();

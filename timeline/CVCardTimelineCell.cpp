@@ -10,6 +10,7 @@
 #include "timeline/DevicePixels.h"
 #include "timeline/TimelineCapsule.h"
 #include "timeline/VerticalLines.h"
+#include "widgets/HighContrast.h"
 #include "widgets/PixelSnapping.h"
 
 #include <QLineF>
@@ -95,9 +96,11 @@ template <typename AddTick>
 void forEachTick(const CVTimelineData& axis, const QColor& monthColor, const QColor& yearColor,
                  AddTick addTick)
 {
+    const QColor month = HighContrast::line(monthColor);
+    const QColor year = HighContrast::line(yearColor);
     for (const auto& tick : axis.tickOffsets()) {
         if (tick.isYear || !axis.monthTicksHidden()) {
-            addTick(tick.offset, tick.isYear ? yearColor : monthColor);
+            addTick(tick.offset, tick.isYear ? year : month);
         }
     }
 }

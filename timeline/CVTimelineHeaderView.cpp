@@ -8,6 +8,7 @@
 #include "timeline/CVTimelineData.h"
 #include "timeline/TimelineHeaderLabels.h"
 #include "timeline/VerticalLines.h"
+#include "widgets/HighContrast.h"
 #include "widgets/PixelSnapping.h"
 #include "widgets/VRLetterpress.h"
 
@@ -69,7 +70,7 @@ void drawLabels(QPainter& painter, const std::vector<TimelineHeaderLabels::Label
 void drawTicksInFrame(QPainter& painter, const QRectF& exposed, const QRectF& frame,
                       const CVTimelineData& axis)
 {
-    const QColor color = QColor::fromRgbF(2.0F / 3.0F, 2.0F / 3.0F, 2.0F / 3.0F);
+    const QColor color = HighContrast::ink(QColor::fromRgbF(2.0F / 3.0F, 2.0F / 3.0F, 2.0F / 3.0F));
     const QColor footColor = QColor::fromRgbF(1.0F, 1.0F, 1.0F, 0.95F);
     VerticalLines years(painter, exposed.left(), exposed.right());
     VerticalLines months = years;

@@ -1,6 +1,7 @@
 #include "timeline/HorizontalScrollAnimation.h"
 
 #include <QScrollBar>
+#include <QStyle>
 
 #include <cmath>
 
@@ -16,7 +17,6 @@ HorizontalScrollAnimation::HorizontalScrollAnimation(CVSyncScrollView& leader,
     , m_leader(leader)
     , m_follower(follower)
 {
-    setDuration(durationInMilliseconds);
     setEasingCurve(QEasingCurve::InOutSine);
     for (const auto* const view : {&leader, &follower}) {
         connect(view, &CVSyncScrollView::willStartLiveScroll, this,
@@ -31,6 +31,9 @@ void HorizontalScrollAnimation::scrollTo(double x)
     if (!std::isfinite(x)) {
         return;
     }
+    const bool isAnimated =
+        m_leader.style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, &m_leader) > 0;
+    setDuration(isAnimated ? durationInMilliseconds : 0);
     setStartValue(static_cast<double>(bar->value()));
     setEndValue(qBound<double>(bar->minimum(), x, bar->maximum()));
     start();

@@ -6,7 +6,8 @@
 
 #include <optional>
 
-/// Moves two scroll views that keep in step sideways, both at once, in a second.
+/// Moves two scroll views that keep in step sideways, both at once, in a second; in no time where
+/// the style has no animations.
 ///
 /// The follower's sync is paused meanwhile. However the animation ends, at its goal, because the
 /// person scrolls, or because another one begins, the views are in step again afterwards.

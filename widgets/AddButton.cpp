@@ -1,6 +1,7 @@
 #include "widgets/AddButton.h"
 
 #include "widgets/ButtonFace.h"
+#include "widgets/HighContrast.h"
 #include "widgets/PixelSnapping.h"
 
 #include <QEvent>
@@ -54,7 +55,7 @@ void AddButton::paintEvent(QPaintEvent* /*event*/)
     const double inset = borderWidth / 2.0;
     const QRectF circle = QRectF(rect()).adjusted(inset, inset, -inset, -inset);
     painter.setBrush(face.gradient(circle));
-    painter.setPen(QPen(face.border, borderWidth));
+    painter.setPen(QPen(HighContrast::ink(face.border), borderWidth));
     painter.drawEllipse(circle);
 
     // Filled along the pixels: a stroke would blur.
@@ -65,6 +66,6 @@ void AddButton::paintEvent(QPaintEvent* /*event*/)
     for (const auto& arm :
          {QRectF(middle.x() - armLength, middle.y() - half, 2 * armLength, 2 * half),
           QRectF(middle.x() - half, middle.y() - armLength, 2 * half, 2 * armLength)}) {
-        painter.fillRect(snapping.snappedRect(arm), face.ink);
+        painter.fillRect(snapping.snappedRect(arm), HighContrast::ink(face.ink));
     }
 }

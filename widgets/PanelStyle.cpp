@@ -1,5 +1,6 @@
 #include "widgets/PanelStyle.h"
 
+#include "widgets/HighContrast.h"
 #include "widgets/PixelSnapping.h"
 #include "widgets/RoundedRing.h"
 
@@ -53,6 +54,9 @@ QColor groundColor(const QStyleOption& option, const QWidget* widget)
 /// How strongly something that can be grasped stands out from its ground.
 double graspShade(const QStyleOptionComplex& option, QStyle::SubControl subControl)
 {
+    if (HighContrast::isWanted() && option.state.testFlag(QStyle::State_Enabled)) {
+        return option.activeSubControls.testFlag(subControl) ? 0.85 : 0.65;
+    }
     if (!option.state.testFlag(QStyle::State_Enabled)) {
         return 0.12;
     }
@@ -209,7 +213,8 @@ void drawFocusRing(QPainter& painter, const QStyleOption& option)
 {
     const auto inside = RoundedRing::draw(painter, option.rect, ringRadius, ringThickness,
                                           option.palette.color(QPalette::Highlight));
-    RoundedRing::draw(painter, inside, ringRadius - ringThickness, 1.0, QColor(255, 255, 255, 150));
+    RoundedRing::draw(painter, inside, ringRadius - ringThickness, 1.0,
+                      HighContrast::line(QColor(255, 255, 255, 150)));
 }
 
 bool showsMnemonics(const QWidget& widget)
@@ -223,6 +228,19 @@ bool showsMnemonics(const QWidget& widget)
 PanelStyle::PanelStyle()
     : QProxyStyle(QStringLiteral("Fusion"))
 {}
+
+void PanelStyle::setHighContrast(bool hasHighContrast)
+{
+    if (m_hasHighContrast == hasHighContrast) {
+        return;
+    }
+    m_hasHighContrast = hasHighContrast;
+    const auto widgets = QApplication::allWidgets();
+    for (auto* const widget : widgets) {
+        QEvent change(QEvent::StyleChange);
+        QCoreApplication::sendEvent(widget, &change);
+    }
+}
 
 void PanelStyle::polish(QApplication* application)
 {
@@ -263,7 +281,12 @@ int PanelStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
 int PanelStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                           QStyleHintReturn* returnData) const
 {
+    if (hint == highContrastHint) {
+        return m_hasHighContrast ? 1 : 0;
+    }
     switch (hint) {
+    case SH_Widget_Animation_Duration:
+        return m_isAnimated ? QProxyStyle::styleHint(hint, option, widget, returnData) : 0;
     case SH_UnderlineShortcut:
         return m_isAltHeld ? 1 : 0;
     case SH_FocusFrame_AboveWidget:
@@ -313,6 +336,7 @@ void PanelStyle::drawControl(ControlElement element, const QStyleOption* option,
     } else {
         QProxyStyle::drawControl(element, option, painter, widget);
     }
+
 }
 
 void PanelStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,

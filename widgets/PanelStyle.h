@@ -11,12 +11,21 @@
 /// - Horizontal sliders without tick marks have a thin groove and a round knob.
 /// - What has the keyboard focus shows a rounded ring just inside its edges, a QFocusFrame too.
 /// - The letters that go with Alt are underlined only while Alt is held.
+/// - Whether anything moves by itself, and whether colours are stronger, is one setting for all.
 class PanelStyle : public QProxyStyle
 {
     Q_OBJECT
 
 public:
+    /// The style hint that is 1 while high contrast is wanted; other styles answer 0.
+    static constexpr auto highContrastHint = static_cast<StyleHint>(SH_CustomBase + 1);
+
     PanelStyle();
+
+    /// False: what would be animated is there at once. As at first: true.
+    void setAnimated(bool isAnimated) { m_isAnimated = isAnimated; }
+    /// Every widget gets a QEvent::StyleChange when this changes. As at first: false.
+    void setHighContrast(bool hasHighContrast);
 
     using QProxyStyle::polish;
     using QProxyStyle::unpolish;
@@ -44,4 +53,6 @@ private:
     void setAltHeld(bool isHeld);
 
     bool m_isAltHeld = false;
+    bool m_isAnimated = true;
+    bool m_hasHighContrast = false;
 };

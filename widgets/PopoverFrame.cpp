@@ -1,5 +1,6 @@
 #include "widgets/PopoverFrame.h"
 
+#include "widgets/HighContrast.h"
 #include "widgets/PixelSnapping.h"
 
 #include <QImage>
@@ -123,7 +124,8 @@ void PopoverFrame::paintEvent(QPaintEvent* /*event*/)
     const auto panel =
         snapping.snappedRect(m_placement.panel).adjusted(inset, inset, -inset, -inset);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(borderColor, line, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+    painter.setPen(
+        QPen(HighContrast::ink(borderColor), line, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
     painter.setBrush(panelColor());
     // Between pixels the arrow's slopes would differ.
     const auto tip = snapping.snappedRect({m_placement.arrowTip(), QSizeF(1, 1)}).topLeft();

@@ -1,5 +1,6 @@
 #include "widgets/StyledTextField.h"
 
+#include "widgets/HighContrast.h"
 #include "widgets/PixelSnapping.h"
 #include "widgets/RoundedRing.h"
 
@@ -124,7 +125,8 @@ void StyledTextField::paintEvent(QPaintEvent* event)
         painter.setBrush(
             QGuiApplication::palette().color(isEnabled() ? QPalette::Base : QPalette::Window));
         painter.drawRoundedRect(box, cornerRadius, cornerRadius);
-        RoundedRing::draw(painter, box, cornerRadius, 1.0, isMarked ? accentColor() : borderColor);
+        RoundedRing::draw(painter, box, cornerRadius, 1.0,
+                          isMarked ? accentColor() : HighContrast::ink(borderColor));
     }
     QLineEdit::paintEvent(event);
 }
