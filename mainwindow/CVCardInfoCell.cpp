@@ -3,6 +3,7 @@
 #include "model/CVCard.h"
 #include "model/CVStatement.h"
 #include "timeline/CVAdditions.h"
+#include "widgets/DesktopFont.h"
 #include "widgets/VRGradientBackgroundStencil.h"
 #include "widgets/VRLetterpress.h"
 
@@ -11,6 +12,7 @@
 #include <QPainter>
 #include <QStringList>
 
+#include <cmath>
 #include <vector>
 
 namespace {
@@ -18,7 +20,6 @@ namespace {
 // Distances in points, from the cell's upper left corner.
 constexpr double inset = 6.0;
 constexpr double accountGap = 8.0;
-constexpr double accountTop = 9.0;
 constexpr double amountsTop = 29.0;
 constexpr double rateTop = 50.0;
 constexpr double forecastTop = 68.0;
@@ -26,7 +27,10 @@ constexpr double forecastTop = 68.0;
 constexpr int titleSize = 14;
 constexpr int amountsSize = 13;
 constexpr int smallestAmountsSize = 10;
+constexpr int largestAmountsSize = 15;
 constexpr int detailSize = 11;
+/// What fits between the lines.
+constexpr int largestDetailSize = 14;
 
 QFont systemFont(int pixelSize)
 {
@@ -75,15 +79,19 @@ std::vector<Line> linesOf(const CVCard& card, const QRectF& frame, double traili
         }
     };
     const auto titleFont = systemFont(titleSize);
-    const auto detailFont = systemFont(detailSize);
+    const auto detailFont = systemFont(DesktopFont::pixelSize(detailSize, largestDetailSize));
     const auto name = card.name().value_or(QString());
     add(name, left, inset, titleFont, false, true);
     const double nameWidth = QFontMetricsF(titleFont).horizontalAdvance(name);
+    // On the line of the name.
+    const double accountTop =
+        inset + std::round(QFontMetricsF(titleFont).ascent() - QFontMetricsF(detailFont).ascent());
     add(card.account().value_or(QString()), left + nameWidth + accountGap, accountTop, detailFont,
         true, true);
     if (const auto* const statement = card.lastStatement()) {
         const auto amounts = statement->formattedBalanceAndLimit();
-        const auto font = fittingFont(amounts, right - left, amountsSize, smallestAmountsSize);
+        const int size = DesktopFont::pixelSize(amountsSize, largestAmountsSize);
+        const auto font = fittingFont(amounts, right - left, size, smallestAmountsSize);
         add(amounts, left,
             amountsTop + QFontMetricsF(systemFont(amountsSize)).ascent() -
                 QFontMetricsF(font).ascent(),

@@ -14,6 +14,7 @@
 #include "store/NSManagedObjectContext.h"
 #include "timeline/CVAdditions.h"
 #include "timeline/HorizontalScrollAnimation.h"
+#include "widgets/DesktopFont.h"
 #include "widgets/NSPopover.h"
 
 #include "ui_MainWindow.h"
@@ -28,6 +29,10 @@ constexpr auto newCardNotification = "CVShowNewCardPopoverIfNeeded";
 
 /// The height of every row, of the cards' list and of the timeline, in points.
 constexpr int rowHeight = 96;
+
+/// How much larger a large font of the desktop makes the texts of the panels, in points; more would
+/// not fit.
+constexpr int largestGrowth = 5;
 
 /// The width that the list of cards has at first, and the least that it can have, in points.
 constexpr int cardsPaneWidth = 272;
@@ -59,7 +64,7 @@ void setUpBottomPanel(GradientBox& box)
 void setUpLabel(QLabel& label, const QColor& color, int pixelSize, QFont::Weight weight)
 {
     QFont font = label.font();
-    font.setPixelSize(pixelSize);
+    font.setPixelSize(DesktopFont::pixelSize(pixelSize, pixelSize + largestGrowth));
     font.setWeight(weight);
     label.setFont(font);
     QPalette palette = label.palette();
