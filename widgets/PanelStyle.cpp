@@ -217,6 +217,18 @@ void drawFocusRing(QPainter& painter, const QStyleOption& option)
                       HighContrast::line(QColor(255, 255, 255, 150)));
 }
 
+/// Below a menu bar's items, and where it has none. Fusion's own line, which this one replaces, has
+/// a gap after each item on a fine screen.
+void drawMenuBarLine(QPainter& painter, const QStyleOption& option, const QWidget* widget)
+{
+    const PixelSnapping snapping(painter);
+    const auto ground = groundColor(option, widget);
+    const QRectF below(option.rect.left(), option.rect.bottom(), option.rect.width(), 1.0);
+    painter.fillRect(snapping.snappedRect(below.adjusted(0.0, -1.0, 0.0, 0.0)), ground);
+    painter.fillRect(snapping.snappedRect(below),
+                     contrasting(ground, HighContrast::isWanted() ? 0.5 : 0.11));
+}
+
 bool showsMnemonics(const QWidget& widget)
 {
     return qobject_cast<const QMenuBar*>(&widget) || qobject_cast<const QMenu*>(&widget) ||
@@ -331,12 +343,20 @@ void PanelStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
 void PanelStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                              const QWidget* widget) const
 {
-    if (element == CE_FocusFrame) {
+    switch (element) {
+    case CE_FocusFrame:
         drawFocusRing(*painter, *option);
-    } else {
+        break;
+    case CE_MenuBarItem:
+    case CE_MenuBarEmptyArea:
+        QProxyStyle::drawControl(element, option, painter, widget);
+        if (!option->state.testFlag(State_Selected)) {
+            drawMenuBarLine(*painter, *option, widget);
+        }
+        break;
+    default:
         QProxyStyle::drawControl(element, option, painter, widget);
     }
-
 }
 
 void PanelStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,

@@ -11,6 +11,7 @@
 #include "widgets/SplitView.h"
 
 #include <QAction>
+#include <QImage>
 #include <QLabel>
 #include <QMenu>
 #include <QNativeGestureEvent>
@@ -204,6 +205,25 @@ TEST_F(MainWindowControllerTest, zoomsByMenuWheelPinchAndControlAroundTheMiddle)
     }
     EXPECT_EQ(controller->scale(), 1.0);
     EXPECT_EQ(scrollView().contentOrigin().x(), 0);
+}
+
+TEST_F(MainWindowControllerTest, movedToAnotherScreenItIsDrawnAsIfItHadAlwaysBeenThere)
+{
+    fill();
+    const auto drawn = [this](double ratio) {
+        auto& window = controller->window();
+        QImage image((QSizeF(window.size()) * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
+        image.setDevicePixelRatio(ratio);
+        window.render(&image);
+        return image;
+    };
+    open();
+    const auto fresh = drawn(1.5);
+    open();
+    for (const double otherRatio : {1.0, 2.0}) {
+        drawn(otherRatio);
+        EXPECT_EQ(drawn(1.5), fresh) << otherRatio;
+    }
 }
 
 TEST_F(MainWindowControllerTest, theViewIsFoundAsItWasLeft)
