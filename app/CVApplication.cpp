@@ -72,6 +72,8 @@ QPalette lightPalette(bool hasHighContrast)
     palette.setColor(QPalette::Highlight,
                      hasHighContrast ? QColor(0x0B, 0x3F, 0x7A) : QColor(0x2B, 0x6C, 0xB0));
     palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::ToolTipBase, QColor(0xF9, 0xF9, 0xF9));
+    palette.setColor(QPalette::ToolTipText, QColor(0x22, 0x21, 0x22));
     if (hasHighContrast) {
         palette.setColor(QPalette::PlaceholderText, QColor(0x44, 0x44, 0x44));
     }

@@ -31,6 +31,8 @@ constexpr double ringThickness = 2.0;
 /// The knob with its focus ring.
 constexpr int knobExtent = static_cast<int>(knobDiameter + 2.0 * ringThickness);
 
+constexpr int toolTipPadding = 4;
+
 constexpr double ringRadius = 4.0;
 /// What a ring and its light inner edge cover, corners included.
 constexpr int ringReach = 5;
@@ -281,6 +283,8 @@ int PanelStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
             return knobExtent;
         }
         break;
+    case PM_ToolTipLabelFrameWidth:
+        return toolTipPadding;
     case PM_FocusFrameHMargin:
     case PM_FocusFrameVMargin:
         return 0;
@@ -369,6 +373,13 @@ void PanelStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
             drawFocusRing(*painter, *option);
         }
         break;
+    case PE_PanelTipLabel: {
+        const auto ground = option->palette.color(QPalette::ToolTipBase);
+        painter->fillRect(option->rect, ground);
+        RoundedRing::draw(*painter, option->rect, 0.0, 1.0,
+                          contrasting(ground, HighContrast::isWanted() ? 0.7 : 0.35));
+        break;
+    }
     case PE_PanelScrollAreaCorner:
         painter->fillRect(option->rect, trackColor(*option, widget));
         break;

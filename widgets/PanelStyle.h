@@ -8,6 +8,7 @@
 /// - Scroll bars are flat, without arrow buttons, and shaded from the colour of the ground that
 ///   they stand on: the palette's colour for the bar's background role, `Window` unless somebody
 ///   chose another. A view with a dark ground says so in its palette.
+/// - Tool tips are plain boxes with a thin border and some room around the text.
 /// - Horizontal sliders without tick marks have a thin groove and a round knob.
 /// - What has the keyboard focus shows a rounded ring just inside its edges, a QFocusFrame too.
 /// - The letters that go with Alt are underlined only while Alt is held.
