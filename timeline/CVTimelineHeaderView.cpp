@@ -125,6 +125,14 @@ QRect CVTimelineHeaderView::visibleRect() const
     return visible;
 }
 
+void CVTimelineHeaderView::changeEvent(QEvent* event)
+{
+    GradientBox::changeEvent(event);
+    if (event->type() == QEvent::StyleChange) {
+        setBottomBorderColor(CVAdditions::cvPanelDarkerBorderColor());
+    }
+}
+
 void CVTimelineHeaderView::moveEvent(QMoveEvent* event)
 {
     // Labels stay in view while their years scroll out of it.

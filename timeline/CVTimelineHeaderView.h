@@ -25,6 +25,7 @@ public:
     QRect visibleRect() const;
 
 protected:
+    void changeEvent(QEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 

@@ -3,9 +3,11 @@
 #include "app/CVApplication.h"
 #include "tests/support/PrivateBus.h"
 #include "timeline/CVAdditions.h"
+#include "timeline/HorizontalScrollAnimation.h"
 
 #include <QDBusMetaType>
 #include <QLabel>
+#include <QScrollBar>
 #include <QStyle>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -89,9 +91,20 @@ TEST(DesktopAppearanceTest, whatIsOnTheScreenFollows)
     };
     const auto usual = subtitleColor();
     QLabel label;
+    CVSyncScrollView leader;
+    CVSyncScrollView follower;
+    for (auto* const view : {&leader, &follower}) {
+        view->horizontalScrollBar()->setRange(0, 100);
+    }
+    HorizontalScrollAnimation animation(leader, follower);
+    animation.scrollTo(50);
+    EXPECT_NE(leader.contentOrigin().x(), 50);
     EXPECT_GT(animationDuration(), 0);
     application.setAppearance(true, true);
     EXPECT_EQ(animationDuration(), 0);
+    animation.scrollTo(60);
+    EXPECT_EQ(leader.contentOrigin().x(), 60);
+    EXPECT_EQ(follower.contentOrigin().x(), 60);
     EXPECT_LT(subtitleColor().lightness(), usual.lightness() / 2 + 1);
     EXPECT_LT(label.palette().color(QPalette::PlaceholderText).lightness(), 0x50);
     application.setAppearance(false, false);
