@@ -12,6 +12,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMetaMethod>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 #include <exception>
@@ -229,7 +230,7 @@ bool CVApplication::event(QEvent* event)
 {
     // One from outside: the session manager's last word. Taken as a Quit of the person, it could
     // make the closing window ask what to do when saving fails.
-    if (event->type() == QEvent::Quit && event->spontaneous()) {
+    if (event->type() == QEvent::Quit && event->spontaneous() && !m_isTerminating) {
         Q_EMIT sessionEnded();
         return true;
     }
@@ -238,6 +239,8 @@ bool CVApplication::event(QEvent* event)
 
 void CVApplication::terminate()
 {
+    // Qt sends the program's own wish to quit around by the platform, as if it came from outside.
+    const QScopedValueRollback terminating(m_isTerminating, true);
     quit();
 }
 

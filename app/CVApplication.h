@@ -67,4 +67,6 @@ private:
     /// The application's.
     PanelStyle* m_style;
     QObject* m_delegate = nullptr;
+    /// Whether the person's Quit is being carried out.
+    bool m_isTerminating = false;
 };

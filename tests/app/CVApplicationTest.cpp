@@ -113,6 +113,20 @@ TEST_F(CVApplicationTest, theEndOfTheSessionIsNoQuitOfThePerson)
     application().notify(&application(), &event);
     EXPECT_EQ(ends, 1);
     EXPECT_TRUE(window().isVisible());
+
+    host.answer = false;
+    QMetaObject::invokeMethod(
+        &window(),
+        [this] {
+            window().findChild<QAction*>(QStringLiteral("terminate"))->trigger();
+            QCoreApplication::exit();
+        },
+        Qt::QueuedConnection);
+    QCoreApplication::exec();
+    EXPECT_EQ(ends, 1);
+    EXPECT_EQ(host.asked, 1) << "a Quit of the person asks";
+    EXPECT_TRUE(window().isVisible());
+    host.answer = true;
 }
 
 TEST_F(CVApplicationTest, anExceptionInAnEventHandlerDoesNotEndTheProgram)

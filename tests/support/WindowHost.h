@@ -12,7 +12,15 @@ public:
     {}
     NSManagedObjectContext* managedObjectContext() override { return &m_context; }
     UserDefaults& userDefaults() override { return m_userDefaults; }
-    bool mayTerminate() override { return true; }
+    bool mayTerminate() override
+    {
+        ++asked;
+        return answer;
+    }
+
+    /// What it says when it is asked whether the program may end, and how often it was.
+    bool answer = true;
+    int asked = 0;
 
 private:
     NSManagedObjectContext& m_context;
