@@ -168,7 +168,7 @@ int runApplication(CVApplication& application, const CommandLine& commandLine,
         }
     }
     std::optional<DesktopAppearance> appearance;
-    if (const auto bus = isSnapshot ? std::nullopt : ApplicationService::sessionBus()) {
+    if (const auto bus = isPersonal ? ApplicationService::sessionBus() : std::nullopt) {
         appearance.emplace(*bus);
         QObject::connect(&*appearance, &DesktopAppearance::didChange, &application,
                          [&application, &appearance] {

@@ -69,6 +69,7 @@ void CVStatementPopoverController::bindFields()
         const auto refusal = dateRefusal();
         m_ui->okButton->setEnabled(refusal.isEmpty());
         m_ui->okButton->setToolTip(refusal);
+        m_ui->dateField->setAccessibleDescription(refusal);
     });
 }
 

@@ -5,6 +5,7 @@
 #include "widgets/PixelSnapping.h"
 #include "widgets/RoundedRing.h"
 
+#include <QDialog>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionFocusRect>
@@ -65,7 +66,7 @@ QSize FormButton::sizeHint() const
 void FormButton::paintEvent(QPaintEvent* /*event*/)
 {
     const ButtonFace face = !isEnabled() ? disabledFace
-                            : isDefault()
+                            : isPrincipal()
                                 ? accentedFace(palette().color(QPalette::Highlight), isDown())
                             : isDown() ? pressedFace
                                        : quietFace;
@@ -87,9 +88,16 @@ void FormButton::paintEvent(QPaintEvent* /*event*/)
     }
 }
 
+bool FormButton::isPrincipal() const
+{
+    // Outside dialogs, where the focus takes it from another, Qt also counts a button as default
+    // that has only the focus.
+    return isDefault() && (!autoDefault() || qobject_cast<const QDialog*>(window()));
+}
+
 QFont FormButton::titleFont() const
 {
     QFont titleFont = font();
-    titleFont.setWeight(isDefault() ? QFont::DemiBold : QFont::Normal);
+    titleFont.setWeight(isPrincipal() ? QFont::DemiBold : QFont::Normal);
     return titleFont;
 }

@@ -18,5 +18,6 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    bool isPrincipal() const;
     QFont titleFont() const;
 };

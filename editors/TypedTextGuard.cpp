@@ -2,6 +2,7 @@
 
 #include "widgets/StyledTextField.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QScopedValueRollback>
 
@@ -51,5 +52,15 @@ void TypedTextGuard::focusDidChange(const QWidget* before, const QWidget* now)
         // Two fields that cannot be read would else send the focus to and fro without end.
         const QScopedValueRollback returning(s_isReturningFocus, true);
         m_field.setFocus();
+        // Qt tells assistive technology last of the field that the focus only passed through.
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                if (m_field.hasFocus()) {
+                    QAccessibleEvent event(&m_field, QAccessible::Focus);
+                    QAccessible::updateAccessibility(&event);
+                }
+            },
+            Qt::QueuedConnection);
     }
 }
