@@ -33,6 +33,7 @@
 #include <gtest/gtest.h>
 
 #include <iostream>
+#include <map>
 #include <random>
 #include <sstream>
 
@@ -433,8 +434,10 @@ private:
         if (before.statement) {
             auto& editor = controller().statementPopoverController();
             auto& button = *editor.view().findChild<QPushButton*>(QStringLiteral("okButton"));
-            const bool isTaken = isConfirmable(before);
-            require(button.isEnabled() == isDateFree(before), "the confirm button is wrong");
+            require(button.isEnabled() == isDateFree(before).value_or(button.isEnabled()),
+                    "the confirm button is wrong");
+            const bool isTaken = button.isEnabled() && isReadable() &&
+                                 m_model.now.cards.contains(before.statement->card);
             button.click();
             require(isTaken == (!controller().statementPopover() &&
                                 m_model.now.cards.contains(before.statement->card)),
@@ -464,25 +467,34 @@ private:
                (before.originalStatement &&
                 !m_model.now.statements.contains(before.originalStatement));
     }
-    /// Whether the date is none of the future, and in a month of its own.
-    bool isDateFree(const Editors& before) const
+    /// Whether the date is none of the future, and its month has no statement, or the edited one as
+    /// its first. Absent when several are the first of their month.
+    std::optional<bool> isDateFree(const Editors& before) const
     {
-        const auto month = QStringLiteral("yyyy-MM");
         const auto& date = before.statement->date;
-        return date && *date < Clock::now() && !isOwnerGone(before) &&
-               std::ranges::none_of(m_model.now.statements, [&](const auto& entry) {
-                   return entry.first != before.originalStatement &&
-                          entry.second.card == before.cardOfMonths && entry.second.date &&
-                          dateOf(*entry.second.date).toString(month) ==
-                              dateOf(*date).toString(month);
-               });
+        if (!date || *date >= Clock::now() || isOwnerGone(before)) {
+            return false;
+        }
+        const auto month = QStringLiteral("yyyy-MM");
+        std::multimap<double, const NSManagedObject*> sameMonth;
+        for (const auto& [record, statement] : m_model.now.statements) {
+            if (statement.card == before.cardOfMonths && statement.date &&
+                dateOf(*statement.date).toString(month) == dateOf(*date).toString(month)) {
+                sameMonth.emplace(statement.date->secondsSince1970(), record);
+            }
+        }
+        if (sameMonth.empty()) {
+            return true;
+        }
+        return sameMonth.count(sameMonth.begin()->first) > 1
+                   ? std::nullopt
+                   : std::optional(sameMonth.begin()->second == before.originalStatement);
     }
-    bool isConfirmable(const Editors& before)
+    bool isReadable()
     {
         const auto fields =
             controller().statementPopoverController().view().findChildren<NumberField*>();
-        return isDateFree(before) && m_model.now.cards.contains(before.statement->card) &&
-               std::ranges::all_of(fields, [](const auto* field) { return field->isReadable(); });
+        return std::ranges::all_of(fields, [](const auto* field) { return field->isReadable(); });
     }
 
     void cancel()
