@@ -39,7 +39,11 @@ CVCardPopoverController::~CVCardPopoverController() = default;
 
 void CVCardPopoverController::awakeFromNib()
 {
-    setUpForm({m_ui->okButton, m_ui->cancelButton, m_ui->line, {&m_ui->currencyChooser->guard()}},
+    setUpForm({m_ui->okButton,
+               m_ui->cancelButton,
+               m_ui->line,
+               {m_ui->nameField, m_ui->accountField, m_ui->currencyChooser},
+               {&m_ui->currencyChooser->guard()}},
               [this] { addOrUpdateCard(); });
     connect(m_ui->nameField, &QLineEdit::textChanged, this, [this](const QString& text) {
         if (m_card && m_card->name().value_or(QString()) != text) {
@@ -78,8 +82,11 @@ void CVCardPopoverController::showCurrency()
 
 void CVCardPopoverController::setCard(CVCard* card)
 {
-    const KeyValueChange change(*this, "card");
-    m_card = card;
+    {
+        const KeyValueChange change(*this, "card");
+        m_card = card;
+    }
+    recordWasHandedOver();
 }
 
 void CVCardPopoverController::setCurrencyList(const QStringList& codes)
@@ -110,6 +117,7 @@ CVCard& CVCardPopoverController::createNewCard()
         }
     }
     context()->processPendingChanges();
+    recordWasHandedOver();
     return newCard;
 }
 

@@ -62,6 +62,32 @@ void CVPopoverController::setIsDirty(bool isDirty)
     m_isDirty = isDirty;
 }
 
+CVPopoverController::TypedTexts CVPopoverController::typedTexts() const
+{
+    TypedTexts texts;
+    for (const auto* const field : m_form.fields) {
+        const auto handedOver = m_handedOver.find(field->objectName());
+        if (handedOver != m_handedOver.end() && field->text() != handedOver->second) {
+            texts.emplace(field->objectName(), field->text());
+        }
+    }
+    return texts;
+}
+
+void CVPopoverController::restoreTypedTexts(const TypedTexts& texts)
+{
+    for (auto* const field : m_form.fields) {
+        if (const auto typed = texts.find(field->objectName()); typed != texts.end()) {
+            field->setText(typed->second);
+        }
+    }
+    for (auto* const guard : m_form.guards) {
+        if (texts.contains(guard->field().objectName())) {
+            guard->commitEditing();
+        }
+    }
+}
+
 KeyValueObservable* CVPopoverController::observableValueForKey(std::string_view key)
 {
     return key == "context" ? m_context : KeyValueObject::observableValueForKey(key);
@@ -97,6 +123,14 @@ void CVPopoverController::setUpForm(FormParts parts, const std::function<void()>
     observeOwn("okButtonTitle", showTitle);
     showTitle();
     m_view->installEventFilter(this);
+}
+
+void CVPopoverController::recordWasHandedOver()
+{
+    m_handedOver.clear();
+    for (const auto* const field : m_form.fields) {
+        m_handedOver.emplace(field->objectName(), field->text());
+    }
 }
 
 NSManagedObject& CVPopoverController::insertIntoContext(std::string_view entityName) const

@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <string_view>
 #include <vector>
@@ -17,6 +18,7 @@ class NSPopover;
 class QLabel;
 class QPushButton;
 class QWidget;
+class StyledTextField;
 class TypedTextGuard;
 
 /// What the editors that a popover shows have in common: a form over a record of the scratch
@@ -49,6 +51,16 @@ public:
     bool isDirty() const { return m_isDirty; }
     void setIsDirty(bool isDirty);
 
+    /// What stands in the fields that the person changed since the record was handed over, by the
+    /// fields' object names.
+    using TypedTexts = std::map<QString, QString>;
+    /// Empty when nothing was typed. A text that was typed back to what it was does not count.
+    TypedTexts typedTexts() const;
+    /// Types them again into the open form: what can be read reaches the record, what cannot stays
+    /// in its field as it was, marked as when the person leaves it. Texts of fields that the form
+    /// does not have are left out.
+    void restoreTypedTexts(const TypedTexts& texts);
+
     /// "Update" while the editor has the record to be changed, "Add" while it has none.
     virtual QString okButtonTitle() const = 0;
 
@@ -67,12 +79,17 @@ protected:
         QPushButton* okButton;
         QPushButton* cancelButton;
         QLabel* line;
-        /// Those of the form's fields, in their order.
+        /// In their order.
+        std::vector<StyledTextField*> fields;
+        /// Those of the fields that have one, in the same order.
         std::vector<TypedTextGuard*> guards;
     };
 
     /// To be called once, when the form has its parts. `confirm` is what the confirm button does.
     void setUpForm(FormParts parts, const std::function<void()>& confirm);
+
+    /// To be called when the form shows a record that was handed over, before anything is typed.
+    void recordWasHandedOver();
 
     /// A new record in the context. Throws std::logic_error when there is none.
     NSManagedObject& insertIntoContext(std::string_view entityName) const;
@@ -94,6 +111,8 @@ protected:
 private:
     std::unique_ptr<QWidget> m_view;
     FormParts m_form{};
+    /// What each field showed when the record was handed over.
+    TypedTexts m_handedOver;
     NSManagedObjectContext* m_context = nullptr;
     QPointer<NSPopover> m_popover;
     bool m_isDirty = false;

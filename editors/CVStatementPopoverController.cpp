@@ -26,6 +26,8 @@ void CVStatementPopoverController::awakeFromNib()
     setUpForm({m_ui->okButton,
                m_ui->cancelButton,
                m_ui->line,
+               {m_ui->dateField, m_ui->balanceField, m_ui->limitField, m_ui->paymentField,
+                m_ui->rateField},
                {&m_ui->balanceField->guard(), &m_ui->limitField->guard(),
                 &m_ui->paymentField->guard(), &m_ui->rateField->guard()}},
               [this] { addOrUpdateStatement(); });
@@ -111,8 +113,11 @@ void CVStatementPopoverController::setCard(CVCard* card)
 
 void CVStatementPopoverController::setStatement(CVStatement* statement)
 {
-    const KeyValueChange change(*this, "statement");
-    m_statement = statement;
+    {
+        const KeyValueChange change(*this, "statement");
+        m_statement = statement;
+    }
+    recordWasHandedOver();
 }
 
 void CVStatementPopoverController::setOriginalStatement(CVStatement* statement)
@@ -169,6 +174,7 @@ CVStatement& CVStatementPopoverController::createNewStatement()
     setDate(newStatement.date());
     copyFromLastStatement(newStatement);
     context()->processPendingChanges();
+    recordWasHandedOver();
     return newStatement;
 }
 

@@ -31,7 +31,10 @@ protected:
         popover.show();
     }
 
-    QLineEdit& field(const QString& name) { return *editor.view().findChild<QLineEdit*>(name); }
+    StyledTextField& field(const QString& name)
+    {
+        return *editor.view().findChild<StyledTextField*>(name);
+    }
     QPushButton& okButton() { return *editor.view().findChild<QPushButton*>(u"okButton"_qs); }
 
     CardStore store;
@@ -120,6 +123,14 @@ TEST_F(CVCardPopoverControllerTest, NothingIsConfirmedThatCannotBeReadOrIsGone)
     EXPECT_EQ(editor.view().findChild<QLabel*>(u"line"_qs)->text(),
               u"There is no such currency."_qs);
     EXPECT_EQ(editor.card()->ccy(), u"GBP"_qs);
+
+    const auto typed = editor.typedTexts();
+    editor.createNewCard();
+    EXPECT_TRUE(editor.typedTexts().empty());
+    openFor(card);
+    editor.restoreTypedTexts(typed);
+    EXPECT_EQ(field(u"currencyChooser"_qs).invalidReason(), u"There is no such currency."_qs);
+    EXPECT_EQ(editor.typedTexts(), typed);
 
     field(u"currencyChooser"_qs).setText(u"jpy"_qs);
     EXPECT_EQ(editor.view().findChild<QLabel*>(u"line"_qs)->text(), QString());

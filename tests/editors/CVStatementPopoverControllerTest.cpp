@@ -221,6 +221,36 @@ TEST_F(CVStatementPopoverControllerTest, WhatCannotBeReadRefusesToBeConfirmed)
     EXPECT_EQ(editor.statement()->balance()->toPlainText(), "800.50");
 }
 
+TEST_F(CVStatementPopoverControllerTest, WhatWasTypedCanBeBroughtBackIntoAnotherForm)
+{
+    openForNew();
+    EXPECT_TRUE(editor.typedTexts().empty());
+    field(u"balanceField"_qs).setText(u"12"_qs);
+    field(u"limitField"_qs).setText(u"7000"_qs);
+    field(u"limitField"_qs).setText(u"6,000.00"_qs);
+    field(u"paymentField"_qs).setText(u"a lot"_qs);
+    const CVPopoverController::TypedTexts typed{{u"balanceField"_qs, u"12"_qs},
+                                                {u"paymentField"_qs, u"a lot"_qs}};
+    EXPECT_EQ(editor.typedTexts(), typed) << "not what was typed back";
+
+    openFor(june);
+    EXPECT_TRUE(editor.typedTexts().empty());
+    clock.advance(3600);
+    openForNew();
+    const auto date = editor.date();
+    editor.restoreTypedTexts(typed);
+    EXPECT_EQ(editor.typedTexts(), typed);
+    EXPECT_EQ(editor.date(), date) << "with its time of day";
+    EXPECT_EQ(editor.statement()->balance(), NSDecimalNumber(12));
+    EXPECT_EQ(editor.statement()->payment(), july.payment());
+    EXPECT_EQ(line(), u"This is not a number."_qs);
+
+    editor.restoreTypedTexts({{u"dateField"_qs, u"soon"_qs}, {u"nameField"_qs, u"no such"_qs}});
+    EXPECT_EQ(field(u"dateField"_qs).text(), u"soon"_qs);
+    EXPECT_TRUE(editor.typedTexts().contains(u"dateField"_qs));
+    EXPECT_FALSE(okButton().isEnabled());
+}
+
 TEST_F(CVStatementPopoverControllerTest, NothingIsConfirmedOnceTheTargetIsGone)
 {
     auto& undoManager = store.context().undoManager();
