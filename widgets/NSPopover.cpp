@@ -36,10 +36,9 @@ void NSPopover::showRelativeToRect(const QRect& rect, QWidget& view, NSRectEdge 
         throw std::logic_error("a popover outlived its content");
     }
     m_phase = Phase::Opening;
-    m_view = &view;
+    setView(&view);
     m_positioningRect = rect.isNull() ? view.rect() : rect;
     m_preferredEdge = preferredEdge;
-    connect(&view, &QObject::destroyed, this, &NSPopover::close);
 
     const QPointer<NSPopover> self(this);
     const auto notStuck = qScopeGuard([&self] {
@@ -62,6 +61,11 @@ void NSPopover::setPositioningRect(const QRect& rect)
         m_positioningRect = rect;
         place(Motion::Animated);
     }
+}
+
+void NSPopover::reposition()
+{
+    reposition(Motion::Animated);
 }
 
 void NSPopover::close()
@@ -103,6 +107,9 @@ void NSPopover::performClose()
 
 bool NSPopover::eventFilter(QObject* watched, QEvent* event)
 {
+    if (event == m_passedOn) {
+        return false;
+    }
     switch (event->type()) {
     case QEvent::MouseButtonPress:
         // The window system's event, of which there is one for each press. What widgets get of it
@@ -115,7 +122,13 @@ bool NSPopover::eventFilter(QObject* watched, QEvent* event)
     case QEvent::Move:
     case QEvent::Resize:
         if (carriesAnchor(*watched)) {
-            place(Motion::AtOnce);
+            // What is in the view goes to its place by this event.
+            const QPointer<NSPopover> self(this);
+            passOn(*watched, *event);
+            if (self) {
+                reposition(Motion::AtOnce);
+            }
+            return true;
         }
         break;
     default:
@@ -130,7 +143,7 @@ void NSPopover::present()
     m_presentation = new PopoverPresentation(*m_view->window(), *m_content, m_accessibleName);
     connect(m_presentation, &QObject::destroyed, this, &NSPopover::close);
     connect(m_presentation, &PopoverPresentation::panelSizeDidChange, this,
-            [this] { place(Motion::AtOnce); });
+            [this] { reposition(Motion::AtOnce); });
     connect(m_presentation, &PopoverPresentation::didAppear, this, [this] {
         if (m_delegate) {
             m_delegate->popoverDidShow(*this);
@@ -145,12 +158,53 @@ void NSPopover::takeDown()
     if (auto* const application = QCoreApplication::instance()) {
         application->removeEventFilter(this);
     }
-    if (m_view) {
-        m_view->disconnect(this);
-        m_view = nullptr;
-    }
+    setView(nullptr);
     if (const auto presentation = std::exchange(m_presentation, nullptr)) {
         presentation->end();
+    }
+}
+
+void NSPopover::reposition(Motion motion)
+{
+    const QPointer<NSPopover> self(this);
+    askForAnchor();
+    if (self && m_phase == Phase::Shown) {
+        place(motion);
+    }
+}
+
+void NSPopover::askForAnchor()
+{
+    // The answer may need scrolling, which asks again.
+    if (m_phase != Phase::Shown || !m_delegate || m_isAskingForAnchor) {
+        return;
+    }
+    const QPointer<NSPopover> self(this);
+    m_isAskingForAnchor = true;
+    const auto answered = qScopeGuard([&self] {
+        if (self) {
+            self->m_isAskingForAnchor = false;
+        }
+    });
+    const auto anchor = m_delegate->popoverWillReposition(*this);
+    if (self && m_phase == Phase::Shown && anchor && anchor->view && !anchor->rect.isNull()) {
+        setView(anchor->view);
+        m_positioningRect = anchor->rect;
+        m_preferredEdge = anchor->preferredEdge;
+    }
+}
+
+void NSPopover::setView(QWidget* view)
+{
+    if (m_view == view) {
+        return;
+    }
+    if (m_view) {
+        m_view->disconnect(this);
+    }
+    m_view = view;
+    if (m_view) {
+        connect(m_view, &QObject::destroyed, this, &NSPopover::close);
     }
 }
 
@@ -186,6 +240,19 @@ int NSPopover::animationDuration() const
     return m_animates
                ? m_view->style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, m_view)
                : 0;
+}
+
+void NSPopover::passOn(QObject& watched, QEvent& event)
+{
+    const QPointer<NSPopover> self(this);
+    const auto* const outer = std::exchange(m_passedOn, &event);
+    const auto passedOn = qScopeGuard([&self, outer] {
+        if (self) {
+            self->m_passedOn = outer;
+        }
+    });
+    // Not sent, which would make an event of the window system one of the program.
+    QCoreApplication::instance()->notify(&watched, &event);
 }
 
 bool NSPopover::isPressOutside(const QObject& watched, const QMouseEvent& press) const

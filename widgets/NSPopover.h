@@ -1,10 +1,9 @@
 #pragma once
 
-#include "widgets/NSRectEdge.h"
+#include "widgets/PopoverAnchor.h"
 
 #include <QObject>
 #include <QPointer>
-#include <QRect>
 #include <QString>
 
 class NSPopoverDelegate;
@@ -17,8 +16,8 @@ class QWidget;
 ///
 /// It is drawn inside the view's window, over everything else, and stays inside. When the rectangle
 /// moves, because its view is scrolled or the window is resized, the popover follows as far as it
-/// is visible; it also follows what its content needs. Rectangles are in points and in the
-/// coordinates of their view.
+/// is visible; it also follows what its content needs. Whenever it is placed anew, the delegate may
+/// point it somewhere else. Rectangles are in points and in the coordinates of their view.
 ///
 /// While the popover is closing, from before its content is taken out until the delegate knows,
 /// whatever would show, move or close it has no effect. The popover may be destroyed at any time;
@@ -70,9 +69,15 @@ public:
     bool isShown() const { return m_phase == Phase::Shown; }
 
     /// What the popover points at. Setting it moves a popover that is shown and has no effect
-    /// otherwise, nor when the rectangle is the null one: that is nowhere.
+    /// otherwise, nor when the rectangle is the null one: that is nowhere. The delegate is not
+    /// asked.
     QRect positioningRect() const { return m_positioningRect; }
     void setPositioningRect(const QRect& rect);
+
+    /// Moves a popover that is shown to where the delegate says that it points now, which may be in
+    /// another view of its window. It closes when that is a view of another window. No effect
+    /// unless shown.
+    void reposition();
 
     /// Closes the popover without asking, as the end of its view, its window or its content does.
     /// The focus goes back to where it was, if it has not left the popover by itself.
@@ -99,9 +104,13 @@ private:
 
     void present();
     void takeDown();
+    void reposition(Motion motion);
+    void askForAnchor();
+    void setView(QWidget* view);
     void place(Motion motion);
     PopoverPlacement placement() const;
     int animationDuration() const;
+    void passOn(QObject& watched, QEvent& event);
     bool isPressOutside(const QObject& watched, const QMouseEvent& press) const;
     bool carriesAnchor(const QObject& object) const;
 
@@ -113,6 +122,9 @@ private:
 
     Phase m_phase = Phase::Closed;
     bool m_isAsking = false;
+    bool m_isAskingForAnchor = false;
+    /// The event that is passed on before the popover acts on it; null for none.
+    const QEvent* m_passedOn = nullptr;
     // The rest counts while it is shown.
     QPointer<QWidget> m_view;
     QRect m_positioningRect;

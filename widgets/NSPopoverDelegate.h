@@ -1,8 +1,13 @@
 #pragma once
 
+#include "widgets/PopoverAnchor.h"
+
+#include <optional>
+
 class NSPopover;
 
-/// Learns when a popover opens and closes, and decides whether it may close by itself.
+/// Learns when a popover opens and closes, decides whether it may close by itself, and says where
+/// what it is about has gone.
 class NSPopoverDelegate
 {
 public:
@@ -19,4 +24,12 @@ public:
     /// It is gone, and its content is free again. The popover may be destroyed now, but shows
     /// nothing until this returns.
     virtual void popoverDidClose(NSPopover& popover) = 0;
+
+    /// Where it points from now on. Asked whenever it is placed anew: after its view has moved or
+    /// was resized, after the window or the content has changed, and by reposition(). Absent, or a
+    /// null view or rectangle: it stays at what it points to.
+    virtual std::optional<PopoverAnchor> popoverWillReposition(NSPopover& /*popover*/)
+    {
+        return std::nullopt;
+    }
 };

@@ -30,11 +30,15 @@ class Ground : public QWidget
 {
 public:
     std::map<QEvent::Type, int> count;
+    std::function<void()> onResize;
 
 protected:
     bool event(QEvent* event) override
     {
         ++count[event->type()];
+        if (event->type() == QEvent::Resize && onResize) {
+            onResize();
+        }
         return QWidget::event(event);
     }
 };
@@ -85,6 +89,10 @@ protected:
         return mayClose;
     }
     void popoverDidClose(NSPopover& sender) override { note("didClose", false, sender); }
+    std::optional<PopoverAnchor> popoverWillReposition(NSPopover& sender) override
+    {
+        return anchorNow ? anchorNow(sender) : std::nullopt;
+    }
 
     void note(const std::string& call, bool isSeen, NSPopover& sender)
     {
@@ -137,6 +145,7 @@ protected:
 
     QRect anchor{300, 100, 6, 6};
     bool mayClose = true;
+    std::function<std::optional<PopoverAnchor>(NSPopover&)> anchorNow;
     /// Those since they were last taken, each with a space behind it.
     std::string calls;
     std::map<std::string, std::function<void(NSPopover&)>> reactions;
@@ -268,6 +277,73 @@ TEST_F(NSPopoverTest, ItFollowsItsRectangleAndItsContentInsideTheWindow)
     window->resize(200, 500);
     EXPECT_EQ(panel().left(), PopoverPlacement::windowMargin) << "too narrow";
     EXPECT_EQ(takeCalls(), shown);
+}
+
+TEST_F(NSPopoverTest, WhereItPointsIsAskedWheneverItIsPlaced)
+{
+    auto* const mark = new QWidget(ground);
+    mark->setGeometry(anchor);
+    show();
+    const auto before = panel();
+    anchorNow = [&](NSPopover&) {
+        return PopoverAnchor{ground, mark->geometry(), NSRectEdge::MaxY};
+    };
+    mark->move(anchor.topLeft() + QPoint(20, 30));
+    EXPECT_EQ(panel(), before);
+    popover->reposition();
+    EXPECT_EQ(panel(), before.translated(20, 30));
+    scrollView->verticalScrollBar()->setValue(9);
+    EXPECT_EQ(panel(), before.translated(20, 21));
+    ground->onResize = [&] {
+        mark->move(anchor.topLeft());
+    };
+    ground->resize(2100, 2000);
+    EXPECT_EQ(panel(), before.translated(0, -9)) << "what lies in the view is in its place first";
+    anchorNow = [&](NSPopover&) {
+        return std::optional<PopoverAnchor>();
+    };
+    ground->onResize = {};
+    mark->move(0, 0);
+    popover->reposition();
+    EXPECT_EQ(panel(), before.translated(0, -9));
+
+    anchorNow = [&](NSPopover&) {
+        return PopoverAnchor{outsideField, outsideField->rect(), NSRectEdge::MaxX};
+    };
+    popover->reposition();
+    EXPECT_GT(panel().left(), outsideField->geometry().right());
+    const auto beside = panel();
+    anchorNow = {};
+    scrollView->takeWidget();
+    delete ground;
+    EXPECT_TRUE(popover->isShown()) << "no view of it any more";
+    outsideField->move(10, 0);
+    EXPECT_EQ(panel(), beside.translated(10, 0));
+
+    QWidget otherWindow;
+    anchorNow = [&](NSPopover& sender) {
+        sender.reposition();
+        outsideField->move(outsideField->x() + 10, 0);
+        return PopoverAnchor{&otherWindow, otherWindow.rect(), NSRectEdge::MaxX};
+    };
+    takeCalls();
+    popover->reposition();
+    popover->reposition();
+    EXPECT_EQ(takeCalls(), closed);
+    for (const bool isDestroyed : {false, true}) {
+        anchorNow = {};
+        popover->showRelativeToRect({}, *outsideField, NSRectEdge::MaxX);
+        anchorNow = [&](NSPopover& sender) {
+            sender.close();
+            if (isDestroyed) {
+                popover.reset();
+            }
+            return PopoverAnchor{outsideField, outsideField->rect(), NSRectEdge::MaxX};
+        };
+        window->resize(window->width() + 10, 500);
+        outsideField->move(outsideField->x() + 10, 0);
+        EXPECT_EQ(takeCalls(), shown + closed);
+    }
 }
 
 TEST_F(NSPopoverTest, WhatItDependsOnMayEndWhileItIsShown)
