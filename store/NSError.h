@@ -12,13 +12,18 @@ class NSError : public std::exception
 {
 public:
     /// `domain` and `code` name the failure to a program; `description` says to a person what
-    /// failed, `failureReason` why (empty when nothing more is known).
-    NSError(QString domain, int code, ErrorText description, ErrorText failureReason = {});
+    /// failed, `failureReason` why (empty when nothing more is known), `brief` the cause in a few
+    /// words that can follow a colon: "the disk is full".
+    NSError(QString domain, int code, ErrorText description, ErrorText failureReason = {},
+            ErrorText brief = {});
 
     const QString& domain() const { return m_domain; }
     int code() const { return m_code; }
     const QString& localizedDescription() const { return m_description.localized(); }
     const QString& localizedFailureReason() const { return m_failureReason.localized(); }
+
+    /// The description where there are no briefer words.
+    const QString& localizedBrief() const;
 
     /// Everything in one line and in English, for the log.
     QString description() const;
@@ -29,5 +34,6 @@ private:
     int m_code;
     ErrorText m_description;
     ErrorText m_failureReason;
+    ErrorText m_brief;
     std::string m_what;
 };

@@ -41,34 +41,51 @@ std::pair<double, double> readableRange(NSAttributeType type)
     return {-largestNumber, largestNumber};
 }
 
-const char* errorText(int code)
+/// What a failure of SQLite means to a person: in a sentence about the file, and in a few words.
+struct FailureText
+{
+    const char* sentence;
+    const char* brief;
+};
+
+FailureText failureText(int code)
 {
     switch (code & 0xff) {
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
-        return QT_TRANSLATE_NOOP("NSError", "The data file “%1” is in use by another program.");
+        return {QT_TRANSLATE_NOOP("NSError", "The data file “%1” is in use by another program."),
+                QT_TRANSLATE_NOOP("NSError", "the data file is in use by another program")};
     case SQLITE_CORRUPT:
-        return QT_TRANSLATE_NOOP("NSError", "The data file “%1” is damaged.");
+        return {QT_TRANSLATE_NOOP("NSError", "The data file “%1” is damaged."),
+                QT_TRANSLATE_NOOP("NSError", "the data file is damaged")};
     case SQLITE_NOTADB:
-        return QT_TRANSLATE_NOOP("NSError", "The file “%1” is not a Corvane data file.");
+        return {QT_TRANSLATE_NOOP("NSError", "The file “%1” is not a Corvane data file."),
+                QT_TRANSLATE_NOOP("NSError", "the data file is none of Corvane’s")};
     case SQLITE_FULL:
-        return QT_TRANSLATE_NOOP("NSError", "There is no room left to save to the data file “%1”.");
+        return {
+            QT_TRANSLATE_NOOP("NSError", "There is no room left to save to the data file “%1”."),
+            QT_TRANSLATE_NOOP("NSError", "the disk is full")};
     case SQLITE_READONLY:
     case SQLITE_PERM:
     case SQLITE_AUTH:
-        return QT_TRANSLATE_NOOP("NSError", "The data file “%1” cannot be written.");
+        return {QT_TRANSLATE_NOOP("NSError", "The data file “%1” cannot be written."),
+                QT_TRANSLATE_NOOP("NSError", "the data file cannot be written")};
     case SQLITE_CANTOPEN:
-        return QT_TRANSLATE_NOOP("NSError", "The data file “%1” could not be opened.");
+        return {QT_TRANSLATE_NOOP("NSError", "The data file “%1” could not be opened."),
+                QT_TRANSLATE_NOOP("NSError", "the data file could not be opened")};
     default:
-        return QT_TRANSLATE_NOOP("NSError", "The data file “%1” could not be read or written.");
+        return {QT_TRANSLATE_NOOP("NSError", "The data file “%1” could not be read or written."),
+                QT_TRANSLATE_NOOP("NSError", "the data file could not be written")};
     }
 }
 
 NSError storeError(const QString& fileName, int code)
 {
-    return {QStringLiteral("NSSQLiteErrorDomain"), code, ErrorText(errorText(code), fileName),
+    const auto text = failureText(code);
+    return {QStringLiteral("NSSQLiteErrorDomain"), code, ErrorText(text.sentence, fileName),
             ErrorText(QT_TRANSLATE_NOOP("NSError", "SQLite reports: %1."),
-                      QString::fromUtf8(sqlite3_errstr(code)))};
+                      QString::fromUtf8(sqlite3_errstr(code))),
+            ErrorText(text.brief)};
 }
 
 std::optional<double> finiteNumber(const SQLite::Column& column)
