@@ -68,7 +68,8 @@ silent() {
 }
 
 silent desktop-file-validate "$desktop/org.corvane.Corvane.desktop"
-silent groff -man -ww -z -Tutf8 -Kutf8 "$generated/corvane.1"
+# It warns of a path with a space or a letter beyond ASCII in it.
+silent groff -man -ww -z -Tutf8 -Kutf8 <"$generated/corvane.1"
 # It also says when all is well.
 appstreamcli validate --no-net "$generated/org.corvane.Corvane.metainfo.xml" || failed=yes
 bash -n "$desktop/corvane.bash" || failed=yes
