@@ -57,6 +57,8 @@ function(corvane_test name)
     add_executable(${name} ${arg_SOURCES} support/${arg_MAIN}Main.cpp)
     target_include_directories(${name} PRIVATE "${PROJECT_BINARY_DIR}/include/tests")
     target_link_libraries(${name} PRIVATE ${arg_LINKS} GTest::gtest corvane_options)
+    # Every source sees it, as the one definition rule asks of what a template prints by.
+    target_compile_options(${name} PRIVATE -include tests/support/TextPrinting.h)
     add_test(NAME ${name} COMMAND ${name} --gtest_brief=1)
     set_tests_properties(${name} PROPERTIES
         TIMEOUT 240
