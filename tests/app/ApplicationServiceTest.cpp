@@ -37,11 +37,13 @@ protected:
         auto environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("XDG_DATA_HOME"), dataHome);
         environment.insert(QStringLiteral("XDG_CONFIG_HOME"), dataHome);
-        environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), QStringLiteral("/missing"));
+        // Without a bus in it. One that is not there, Qt would make, or complain.
+        environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), home.path());
         environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), busAddress);
         environment.insert(QStringLiteral("XDG_ACTIVATION_TOKEN"), QStringLiteral("a token"));
         program->setProcessEnvironment(environment);
-        program->start(QStringLiteral(CORVANE_PROGRAM), arguments);
+        // It is built beside the tests, wherever those were taken to.
+        program->start(QCoreApplication::applicationDirPath() + u"/../app/corvane", arguments);
         return program;
     }
     /// Waits for the end of a launch. Answers what it said on standard error; absent when it was

@@ -12,6 +12,7 @@
 #include "store/NSManagedObjectContext.h"
 #include "store/NSPersistentStoreCoordinator.h"
 #include "tests/support/Person.h"
+#include "tests/support/ScopedVariable.h"
 
 #include <QDesktopServices>
 #include <QDir>
@@ -215,8 +216,8 @@ TEST_F(Corvane_AppDelegateTest, undoFromTheWindowIsSavedAndShown)
 TEST_F(Corvane_AppDelegateTest, theAboutBoxOpensTheFolderOfTheStore)
 {
     // Not the file browser of the person who runs the tests.
-    qputenv("DBUS_SESSION_BUS_ADDRESS", "");
-    qputenv("XDG_RUNTIME_DIR", "/missing");
+    const ScopedVariable bus("DBUS_SESSION_BUS_ADDRESS", "");
+    const ScopedVariable runtime("XDG_RUNTIME_DIR", QFile::encodeName(home.path()).constData());
     FolderBrowser browser;
     QDesktopServices::setUrlHandler(QStringLiteral("file"), &browser, "open");
     delegate.applicationDidFinishLaunching();
@@ -274,33 +275,40 @@ TEST(StoreLock, refusesWhatIsNoFileOfItsOwn)
 TEST(SupportDirectory, followsTheDataHomeUnlessItIsRelative)
 {
     const auto with = [](const char* dataHome, const char* home) {
-        qputenv("XDG_DATA_HOME", dataHome);
-        qputenv("HOME", home);
+        const ScopedVariable data("XDG_DATA_HOME", dataHome);
+        const ScopedVariable person("HOME", home);
         return SupportDirectory::path();
     };
-    const auto oldHome = qgetenv("HOME");
     EXPECT_EQ(with("/data", "/home/ada"), QStringLiteral("/data/Corvane"));
     EXPECT_EQ(with("", "/home/ada"), QStringLiteral("/home/ada/.local/share/Corvane"));
     EXPECT_EQ(with("relative", "/home/ada"), QStringLiteral("/home/ada/.local/share/Corvane"));
     EXPECT_EQ(with("", ""), QString(QDir::tempPath() + QStringLiteral("/Corvane")));
+}
+
+TEST(SupportDirectory, isThePersonsOwnAlsoInTheTemporaryDirectory)
+{
     const QTemporaryDir directory;
-    // In the temporary directory, a link may lead to where somebody else reads.
-    const auto oldTemporary = qgetenv("TMPDIR");
-    qputenv("TMPDIR", QFile::encodeName(directory.path()));
+    const ScopedVariable temporary("TMPDIR", QFile::encodeName(directory.path()).constData());
+    const ScopedVariable data("XDG_DATA_HOME", "");
+    const ScopedVariable home("HOME", "");
     Person person;
     const Corvane_AppDelegate delegate(person, UserDefaults::volatileDefaults());
     delegate.makeApplicationSupportDirectory();
     delegate.makeApplicationSupportDirectory();
     ASSERT_TRUE(QDir(directory.path()).rmdir(QStringLiteral("Corvane")));
+    // A link may lead to where somebody else reads.
     ASSERT_TRUE(QFile::link(QStringLiteral("/"), directory.filePath(QStringLiteral("Corvane"))));
     const Log::Collector log;
     EXPECT_THROW(delegate.makeApplicationSupportDirectory(), AssertionFailure);
-    qputenv("TMPDIR", oldTemporary);
-    with(QFile::encodeName(directory.filePath(QStringLiteral("a/b"))).constData(), "");
+}
+
+TEST(SupportDirectory, hasItsDataHomeMade)
+{
+    const QTemporaryDir directory;
+    const ScopedVariable data(
+        "XDG_DATA_HOME", QFile::encodeName(directory.filePath(QStringLiteral("a/b"))).constData());
     EXPECT_TRUE(SupportDirectory::makeDataHome());
     EXPECT_TRUE(SupportDirectory::makeDataHome());
-    qunsetenv("XDG_DATA_HOME");
-    qputenv("HOME", oldHome);
 }
 
 #include "Corvane_AppDelegateTest.moc"

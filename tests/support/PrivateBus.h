@@ -23,7 +23,8 @@ public:
         for (int i = 1; i <= m_connections; ++i) {
             QDBusConnection::disconnectFromBus(connectionName(i));
         }
-        m_daemon.kill();
+        // It takes its socket away.
+        m_daemon.terminate();
         m_daemon.waitForFinished();
     }
     PrivateBus(const PrivateBus&) = delete;
