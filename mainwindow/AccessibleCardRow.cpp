@@ -53,7 +53,7 @@ void AccessibleCardRow::doAction(const QString& action)
         return;
     }
     AccessibleRow::doAction(selectAction());
-    Q_EMIT cardTable()->doubleClicked(row());
+    cardTable()->doubleClickRow(row());
 }
 
 CVCardTableView* AccessibleCardRow::cardTable() const

@@ -11,6 +11,7 @@
 #include <QMouseEvent>
 
 #include <algorithm>
+#include <utility>
 
 CVCardTableView::CVCardTableView(QWidget* parent)
     : RowTableView(parent)
@@ -79,6 +80,14 @@ QRect CVCardTableView::newStatementPopoverAnchorRectForRow(int row) const
                 : QRect();
 }
 
+void CVCardTableView::doubleClickRow(int row)
+{
+    if (cardAtRow(row)) {
+        scrollRowToVisible(row);
+        Q_EMIT doubleClicked(rowView(row));
+    }
+}
+
 void CVCardTableView::redrawRows()
 {
     for (const auto& [row, view] : m_rowViews) {
@@ -106,19 +115,27 @@ void CVCardTableView::layoutRows()
     const bool isAnyVisible = isVisible() && numberOfRows() > 0 && !visible.isEmpty();
     const int first = isAnyVisible ? visible.top() / rowHeight() : 0;
     const int end = isAnyVisible ? std::min(numberOfRows(), visible.bottom() / rowHeight() + 1) : 0;
-    for (auto entry = m_rowViews.begin(); entry != m_rowViews.end();) {
-        if (entry->first >= first && entry->first < end) {
-            ++entry;
-            continue;
-        }
-        entry->second->hide();
-        entry->second->cellView().setObjectValue(nullptr);
-        m_spareRowViews.push_back(entry->second);
-        entry = m_rowViews.erase(entry);
+    const auto before = std::exchange(m_rowViews, {});
+    std::map<const CVCard*, CVCardTableRowView*> viewsOfCards;
+    for (const auto& [row, view] : before) {
+        viewsOfCards.emplace(view->cellView().objectValue(), view);
     }
     for (int row = first; row < end; ++row) {
-        const bool isNew = !m_rowViews.contains(row);
-        auto& view = rowViewForRow(row);
+        if (const auto known = viewsOfCards.extract(cardAtRow(row))) {
+            m_rowViews.emplace(row, known.mapped());
+        }
+    }
+    for (const auto& [card, view] : viewsOfCards) {
+        // Its button may be pressed; whatever card it shows next was not meant.
+        view->cellView().addStatementButton().setDown(false);
+        view->hide();
+        view->cellView().setObjectValue(nullptr);
+        m_spareRowViews.push_back(view);
+    }
+    for (int row = first; row < end; ++row) {
+        auto& place = m_rowViews[row];
+        auto& view = place ? *place : spareRowView();
+        place = &view;
         view.setGeometry(rectOfRow(row));
         view.setSelected(isRowSelected(row));
         auto* const card = cardAtRow(row);
@@ -127,7 +144,8 @@ void CVCardTableView::layoutRows()
         }
         view.cellView().addStatementButton().setEnabled(canAddStatements());
         view.show();
-        if (isNew) {
+        const auto known = before.find(row);
+        if (known == before.end() || known->second != &view) {
             Q_EMIT didAddRowView(&view, row);
         }
     }
@@ -135,10 +153,10 @@ void CVCardTableView::layoutRows()
 
 void CVCardTableView::mouseDoubleClickEvent(QMouseEvent* event)
 {
+    const auto row = rowAtPoint(pointOfPress(*event));
     RowTableView::mouseDoubleClickEvent(event);
-    const auto row = rowAtPoint(event->position());
     if (event->button() == Qt::LeftButton && row) {
-        Q_EMIT doubleClicked(*row);
+        doubleClickRow(*row);
     }
 }
 
@@ -147,20 +165,17 @@ QRect CVCardTableView::rectForSubview(const QWidget* view, int row) const
     return view ? QRect(view->mapTo(this, QPoint()), view->size()) & rectOfRow(row) : QRect();
 }
 
-CVCardTableRowView& CVCardTableView::rowViewForRow(int row)
+CVCardTableRowView& CVCardTableView::spareRowView()
 {
-    auto& view = m_rowViews[row];
-    if (!view) {
-        if (m_spareRowViews.empty()) {
-            view = new CVCardTableRowView(this);
-            auto* const button = &view->cellView().addStatementButton();
-            connect(button, &QAbstractButton::clicked, this,
-                    [this, button] { Q_EMIT addStatement(button); });
-        } else {
-            view = m_spareRowViews.back();
-            m_spareRowViews.pop_back();
-        }
+    if (m_spareRowViews.empty()) {
+        auto* const view = new CVCardTableRowView(this);
+        auto* const button = &view->cellView().addStatementButton();
+        connect(button, &QAbstractButton::clicked, this,
+                [this, button] { Q_EMIT addStatement(button); });
+        return *view;
     }
+    auto* const view = m_spareRowViews.back();
+    m_spareRowViews.pop_back();
     return *view;
 }
 

@@ -14,7 +14,7 @@ class QAction;
 /// The list of cards.
 ///
 /// Its rows are widgets, made for the rows in view only and used again for others when they are
-/// scrolled away.
+/// scrolled away. As long as a card is in view it keeps its widget, wherever its row moves.
 class CVCardTableView : public RowTableView
 {
     Q_OBJECT
@@ -42,6 +42,10 @@ public:
     QRect cardInfoPopoverAnchorRectForRow(int row) const;
     QRect newStatementPopoverAnchorRectForRow(int row) const;
 
+    /// Scrolls to a row and announces it as one that was clicked twice; a row that is not there
+    /// changes nothing.
+    void doubleClickRow(int row);
+
     /// Lets all rows in view be drawn again: what they show may have changed.
     void redrawRows();
 
@@ -51,7 +55,8 @@ public:
 Q_SIGNALS:
     /// A row view was made, or given another row.
     void didAddRowView(CVCardTableRowView* rowView, int row);
-    void doubleClicked(int row);
+    /// A row was clicked twice: this is its view.
+    void doubleClicked(QObject* sender);
     /// The "+" of a row was pressed: this button.
     void addStatement(QObject* sender);
 
@@ -62,7 +67,7 @@ protected:
 
 private:
     QRect rectForSubview(const QWidget* view, int row) const;
-    CVCardTableRowView& rowViewForRow(int row);
+    CVCardTableRowView& spareRowView();
     void showSelection();
     bool canAddStatements() const;
     void showWhetherStatementsCanBeAdded();

@@ -106,9 +106,6 @@ public:
     /// The card that will own the statement that is being made.
     CVCard* cardForNewStatement() const { return m_cardForNewStatement; }
 
-    /// Opens the editor of what is selected in the list or on the timeline; each opens the one of
-    /// the selected statement where there is one. `clickedRow` is where the list was clicked twice.
-    void getInfo(int clickedRow);
     /// Closes the statement's editor, if it is open, and drops what was typed.
     void dismissStatementPopover();
 
@@ -168,6 +165,9 @@ public Q_SLOTS:
     /// Opens the editor for a new statement: of the card in whose row the sender, a widget, is;
     /// else of the selected card.
     void addStatement(QObject* sender);
+    /// Opens the editor of the card in whose row the sender, a widget, is; else of the selected
+    /// statement, or of the selected card.
+    void getInfo(QObject* sender);
     /// Opens the editor of the selected statement; without one, of the selected card.
     void getSelectedCardInfo();
     /// Deletes the selected statement; without one, the selected card. Saved at once.

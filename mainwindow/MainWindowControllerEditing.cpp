@@ -179,23 +179,31 @@ void MainWindowController::dismissStatementPopover()
     }
 }
 
-void MainWindowController::getInfo(int clickedRow)
+void MainWindowController::getInfo(QObject* sender)
 {
-    if (m_selectedStatement) {
+    if (!m_context) {
+        return;
+    }
+    const auto* const view = qobject_cast<QWidget*>(sender);
+    auto row = view ? m_ui->cardsTableView->rowForView(view) : std::nullopt;
+    if (!row && m_selectedStatement) {
         showSelectedStatementPopover();
         return;
     }
-    auto* const card = m_ui->cardsTableView->cardAtRow(clickedRow);
+    if (!row) {
+        row = selectedRow();
+    }
+    auto* const card = row ? m_ui->cardsTableView->cardAtRow(*row) : nullptr;
     if (!card) {
         return;
     }
     dismissStatementPopover();
-    const auto anchor = m_ui->cardsTableView->cardInfoPopoverAnchorRectForRow(clickedRow);
+    const auto anchor = m_ui->cardsTableView->cardInfoPopoverAnchorRectForRow(*row);
     if (m_cardPopover) {
         cardPopoverController().setCard(card);
         m_cardPopover->setPositioningRect(anchor);
     } else {
-        showCardPopoverForCard(*card, clickedRow, anchor);
+        showCardPopoverForCard(*card, *row, anchor);
     }
 }
 

@@ -230,7 +230,8 @@ void CVTimelineTableView::mouseDown(QMouseEvent* event, int clickCount)
         event->ignore();
         return;
     }
-    const auto row = rowAtPoint(event->position());
+    const auto point = pointOfPress(*event);
+    const auto row = rowAtPoint(point);
     if (!row) {
         unselectStatement();
         return;
@@ -238,7 +239,7 @@ void CVTimelineTableView::mouseDown(QMouseEvent* event, int clickCount)
     // The row first, then the statement in it.
     RowTableView::mousePressEvent(event);
     const auto geometry = geometryOfRow(*row);
-    const auto hit = geometry ? geometry->hit(event->position()) : std::nullopt;
+    const auto hit = geometry ? geometry->hit(point) : std::nullopt;
     if (m_delegate) {
         m_delegate->timelineTableViewDidSelectStatement(*this, hit ? hit->statement : nullptr,
                                                         hit ? hit->point : QPointF(), clickCount);

@@ -5,6 +5,7 @@
 #include "widgets/PopoverPresentation.h"
 
 #include <QApplication>
+#include <QMenuBar>
 #include <QMouseEvent>
 #include <QScopeGuard>
 #include <QStyle>
@@ -115,8 +116,15 @@ bool NSPopover::eventFilter(QObject* watched, QEvent* event)
         // The window system's event, of which there is one for each press. What widgets get of it
         // may pass through several of them.
         if (m_behavior == Behavior::Semitransient &&
-            isPressOutside(*watched, static_cast<const QMouseEvent&>(*event))) {
-            performClose();
+            isPressElsewhere(*watched, static_cast<const QMouseEvent&>(*event))) {
+            // What the person pressed may not be there any more when the popover has closed.
+            const QPointer<NSPopover> self(this);
+            const auto presentation = m_presentation;
+            passOn(*watched, *event);
+            if (self && presentation && presentation == m_presentation) {
+                performClose();
+            }
+            return true;
         }
         break;
     case QEvent::Move:
@@ -255,13 +263,20 @@ void NSPopover::passOn(QObject& watched, QEvent& event)
     QCoreApplication::instance()->notify(&watched, &event);
 }
 
-bool NSPopover::isPressOutside(const QObject& watched, const QMouseEvent& press) const
+bool NSPopover::isPressElsewhere(const QObject& watched, const QMouseEvent& press) const
 {
     // While something is popped up, it gets the press first, wherever that is; when it lets it
     // through, the press comes again.
-    return m_presentation && &watched == m_presentation->window().windowHandle() &&
-           !QApplication::activePopupWidget() &&
-           !m_presentation->isAtPoint(press.position().toPoint());
+    const auto point = press.position().toPoint();
+    if (!m_presentation || &watched != m_presentation->window().windowHandle() ||
+        QApplication::activePopupWidget() || m_presentation->isAtPoint(point)) {
+        return false;
+    }
+    const auto* widget = m_presentation->window().childAt(point);
+    while (widget && widget != m_opener && !qobject_cast<const QMenuBar*>(widget)) {
+        widget = widget->parentWidget();
+    }
+    return !widget;
 }
 
 bool NSPopover::carriesAnchor(const QObject& object) const

@@ -32,8 +32,9 @@ public:
         /// It closes only when told to.
         ApplicationDefined,
         /// It also closes, if the delegate agrees, when the mouse is pressed somewhere else in its
-        /// window; the press does there what it would do without a popover. What the content itself
-        /// pops up, menus and lists, is not somewhere else, and neither are other windows.
+        /// window; the press has done there by then what it would do without a popover. The menu
+        /// bar and the opener are not somewhere else, nor is what pops up, menus, lists and tool
+        /// tips, and neither are other windows.
         Semitransient,
     };
 
@@ -59,6 +60,11 @@ public:
     /// that it is shown.
     QString accessibleName() const { return m_accessibleName; }
     void setAccessibleName(const QString& name) { m_accessibleName = name; }
+
+    /// The control that the person opens the popover with: pressed again, it does what it does and
+    /// closes nothing. Null at first, for none, and after the control's end.
+    QWidget* opener() const { return m_opener; }
+    void setOpener(QWidget* opener) { m_opener = opener; }
 
     /// Shows the popover at an edge of `rect`, or where there is room, and moves the focus into it.
     /// The null rectangle stands for all of the view. Without effect unless the popover is closed.
@@ -111,7 +117,7 @@ private:
     PopoverPlacement placement() const;
     int animationDuration() const;
     void passOn(QObject& watched, QEvent& event);
-    bool isPressOutside(const QObject& watched, const QMouseEvent& press) const;
+    bool isPressElsewhere(const QObject& watched, const QMouseEvent& press) const;
     bool carriesAnchor(const QObject& object) const;
 
     QPointer<QWidget> m_content;
@@ -119,6 +125,7 @@ private:
     Behavior m_behavior = Behavior::ApplicationDefined;
     bool m_animates = false;
     QString m_accessibleName;
+    QPointer<QWidget> m_opener;
 
     Phase m_phase = Phase::Closed;
     bool m_isAsking = false;

@@ -4,6 +4,7 @@
 #include "widgets/AccessibleRow.h"
 
 #include <QFocusFrame>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -11,6 +12,7 @@
 #include <QScopeGuard>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QStyleHints>
 
 #include <algorithm>
 #include <cmath>
@@ -256,12 +258,28 @@ void RowTableView::showFocusFrame(bool isShown)
 void RowTableView::mousePressEvent(QMouseEvent* event)
 {
     showFocusFrame(false);
-    const auto row = rowAtPoint(event->position());
+    const auto point = pointOfPress(*event);
+    const auto row = rowAtPoint(point);
+    m_pressedRow = row ? m_model->index(*row, 0) : QModelIndex();
     if (event->button() != Qt::LeftButton || !row) {
         event->ignore();
         return;
     }
+    m_pressedPlace = point - rectOfRow(*row).topLeft();
+    m_pressedScreenPoint = event->globalPosition();
     chooseRow(*row);
+}
+
+QPointF RowTableView::pointOfPress(const QMouseEvent& event) const
+{
+    // A press at another place was not the first one of this double click.
+    const auto distance = event.globalPosition() - m_pressedScreenPoint;
+    const bool isSecond =
+        event.type() == QEvent::MouseButtonDblClick &&
+        distance.manhattanLength() <= QGuiApplication::styleHints()->mouseDoubleClickDistance();
+    return isSecond && m_pressedRow.isValid()
+               ? rectOfRow(m_pressedRow.row()).topLeft() + m_pressedPlace
+               : event.position();
 }
 
 void RowTableView::mouseDoubleClickEvent(QMouseEvent* event)

@@ -5,6 +5,8 @@
 
 #include <QAbstractItemModel>
 #include <QItemSelectionModel>
+#include <QPersistentModelIndex>
+#include <QPointF>
 #include <QPointer>
 #include <QWidget>
 
@@ -83,6 +85,11 @@ protected:
 
     /// The person chose a row; it is selected right after.
     virtual void willSelectRow(int /*row*/) {}
+    /// The point that a press or a double click is about, in the table's coordinates. A double
+    /// click is about what its first press met, wherever that row is by now: the press may have
+    /// moved the rows under the pointer.
+    QPointF pointOfPress(const QMouseEvent& event) const;
+
     /// The rows themselves, their places, or the part of the table in view are others now.
     virtual void layoutRows() {}
 
@@ -115,5 +122,11 @@ private:
     /// keyboard.
     QFocusFrame* m_focusFrame;
     int m_rowHeight = 20;
+    /// The row that was pressed last; invalid when the press was beside the rows or the row is
+    /// gone.
+    QPersistentModelIndex m_pressedRow;
+    /// Where in the row, and where on the screen that was.
+    QPointF m_pressedPlace;
+    QPointF m_pressedScreenPoint;
     AccessibleRowEvents m_accessibleRowEvents{*this};
 };

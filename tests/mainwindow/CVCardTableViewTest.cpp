@@ -122,6 +122,45 @@ TEST_F(CVCardTableViewTest, viewsFollowTheirCardsAsTheListChanges)
     EXPECT_EQ(rowsWithViews(), (std::vector{0, 1}));
 }
 
+TEST_F(CVCardTableViewTest, whatIsPressedIsMeantWhereverItsRowMoves)
+{
+    const auto rename = [this](int row, const QString& name) {
+        table->cardAtRow(row)->setName(name);
+        store.context().processPendingChanges();
+    };
+    std::vector<CVCard*> doubleClicked;
+    QObject::connect(table, &CVCardTableView::doubleClicked, table, [&](QObject* sender) {
+        doubleClicked.push_back(
+            table->cardAtRow(table->rowForView(qobject_cast<QWidget*>(sender)).value()));
+    });
+    int clicks = 0;
+    QObject::connect(table, &CVCardTableView::addStatement, table, [&clicks] { ++clicks; });
+
+    const QPoint point(20, 96 * 2 + 5);
+    for (const auto& name : {QStringLiteral("Alpha"), QStringLiteral("Zulu")}) {
+        auto* const pressed = table->cardAtRow(2);
+        QTest::mouseClick(table, Qt::LeftButton, {}, point);
+        rename(2, name);
+        QTest::mouseDClick(table, Qt::LeftButton, {}, point);
+        EXPECT_EQ(doubleClicked.back(), pressed);
+        EXPECT_EQ(table->cardAtRow(*table->selectedRow()), pressed);
+        scrollView.verticalScrollBar()->setValue(0);
+    }
+    auto* const elsewhere = table->cardAtRow(3);
+    QTest::mouseDClick(table, Qt::LeftButton, {}, {20, 96 * 3 + 5});
+    EXPECT_EQ(doubleClicked.back(), elsewhere) << "its first press was not ours";
+
+    for (const auto& name : {QStringLiteral("Beta"), QStringLiteral("Yankee")}) {
+        auto& button = table->rowView(2)->cellView().addStatementButton();
+        const auto place = button.mapTo(table, button.rect().center());
+        QTest::mousePress(&button, Qt::LeftButton);
+        rename(2, name);
+        auto* const under = table->childAt(place);
+        QTest::mouseRelease(under, Qt::LeftButton, {}, under->mapFrom(table, place));
+    }
+    EXPECT_EQ(clicks, 0) << "the buttons of other cards";
+}
+
 TEST_F(CVCardTableViewTest, choosesRowsByMouseAndKeyboard)
 {
     QTest::mouseClick(table, Qt::LeftButton, {}, {20, 96 * 2 + 5});

@@ -156,7 +156,10 @@ TEST_F(MainWindowEditingTest, theCardEditorRefusesItsFirstCloseAndLosesNothing)
 {
     fill();
     open();
-    controller.getInfo(1);
+    auto& list = table<CVCardTableView>("cardsTableView");
+    controller.setSelectedStatement(first->lastStatement());
+    controller.getInfo(list.rowView(1));
+    controller.setSelectedStatement(nullptr);
     ASSERT_TRUE(controller.cardPopover());
     EXPECT_EQ(controller.editingCard(), second);
     cardEditor().card()->setName(QStringLiteral("Zenith"));
@@ -167,7 +170,7 @@ TEST_F(MainWindowEditingTest, theCardEditorRefusesItsFirstCloseAndLosesNothing)
     EXPECT_EQ(undoManager().undoActionName(), QStringLiteral("Edit Card"));
     EXPECT_EQ(controller.editingCard(), nullptr);
 
-    controller.getInfo(0);
+    controller.getInfo(list.rowView(0));
     cardEditor().card()->setName(QStringLiteral("Gone"));
     controller.addCard();
     cardEditor().addOrUpdateCard();

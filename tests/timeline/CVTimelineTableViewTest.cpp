@@ -134,6 +134,14 @@ TEST_F(CVTimelineTableViewTest, aPressReportsTheRowAndThenTheStatementUnderIt)
     EXPECT_EQ(table().selectedRow(), 0);
     press(square.center(), QEvent::MouseButtonDblClick);
     EXPECT_EQ(delegate.clicks.back(), (Delegate::Click{&early, square.center(), 2}));
+    press(square.center());
+    first.setName(QStringLiteral("Zulu"));
+    store.context().processPendingChanges();
+    press(square.center(), QEvent::MouseButtonDblClick);
+    EXPECT_EQ(delegate.clicks.back().statement, &early) << "wherever its row has gone meanwhile";
+    EXPECT_EQ(delegate.rows.back(), 1);
+    first.setName(QStringLiteral("Aurora"));
+    store.context().processPendingChanges();
     for (const auto& beside :
          {square.topRight(), square.bottomLeft(), square.topLeft() - QPointF(0.5, 0)}) {
         press(beside);

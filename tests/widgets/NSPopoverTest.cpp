@@ -8,9 +8,11 @@
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QNativeGestureEvent>
 #include <QPointingDevice>
 #include <QProxyStyle>
+#include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTest>
@@ -30,14 +32,15 @@ class Ground : public QWidget
 {
 public:
     std::map<QEvent::Type, int> count;
-    std::function<void()> onResize;
+    /// What else happens then.
+    std::map<QEvent::Type, std::function<void()>> on;
 
 protected:
     bool event(QEvent* event) override
     {
         ++count[event->type()];
-        if (event->type() == QEvent::Resize && onResize) {
-            onResize();
+        if (const auto reaction = on.find(event->type()); reaction != on.end()) {
+            reaction->second();
         }
         return QWidget::event(event);
     }
@@ -208,9 +211,36 @@ TEST_F(NSPopoverTest, OnlyAPressSomewhereElseInTheWindowClosesASemitransientPopo
     press(shadow);
     EXPECT_EQ(takeCalls(), asked);
     mayClose = true;
+    QMenuBar bar(window.get());
+    bar.addAction(QStringLiteral("Edit"));
+    bar.setGeometry(0, 470, 600, 30);
+    bar.show();
+    QPushButton opener(window.get());
+    opener.setGeometry(200, 0, 50, 30);
+    opener.show();
+    int openings = 0;
+    QObject::connect(&opener, &QPushButton::clicked, window.get(), [&openings] { ++openings; });
+    popover->setOpener(&opener);
+    press({10, 485});
+    press({225, 15});
+    EXPECT_EQ(takeCalls(), "") << "no presses elsewhere";
+    EXPECT_EQ(openings, 1);
+
+    reactions["shouldClose"] = [this](NSPopover&) {
+        EXPECT_EQ(ground->count[QEvent::MouseButtonPress], 3) << "already";
+    };
     press(shadow);
     EXPECT_EQ(takeCalls(), asked + closed);
-    EXPECT_EQ(ground->count[QEvent::MouseButtonPress], 3);
+    EXPECT_EQ(ground->count[QEvent::MouseButtonPress], 3) << "once";
+
+    show();
+    takeCalls();
+    ground->on[QEvent::MouseButtonPress] = [this] {
+        popover->close();
+        show();
+    };
+    press({500, 400});
+    EXPECT_EQ(takeCalls(), closed + shown) << "what the press has opened stays";
 }
 
 TEST_F(NSPopoverTest, TheFocusComesInStaysInAndGoesBack)
@@ -294,7 +324,7 @@ TEST_F(NSPopoverTest, WhereItPointsIsAskedWheneverItIsPlaced)
     EXPECT_EQ(panel(), before.translated(20, 30));
     scrollView->verticalScrollBar()->setValue(9);
     EXPECT_EQ(panel(), before.translated(20, 21));
-    ground->onResize = [&] {
+    ground->on[QEvent::Resize] = [&] {
         mark->move(anchor.topLeft());
     };
     ground->resize(2100, 2000);
@@ -302,7 +332,7 @@ TEST_F(NSPopoverTest, WhereItPointsIsAskedWheneverItIsPlaced)
     anchorNow = [&](NSPopover&) {
         return std::optional<PopoverAnchor>();
     };
-    ground->onResize = {};
+    ground->on.clear();
     mark->move(0, 0);
     popover->reposition();
     EXPECT_EQ(panel(), before.translated(0, -9));
