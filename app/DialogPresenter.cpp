@@ -1,7 +1,7 @@
 #include "app/DialogPresenter.h"
 
-#include "editors/FormButton.h"
 #include "store/NSError.h"
+#include "widgets/FormButton.h"
 
 #include <QApplication>
 #include <QMessageBox>

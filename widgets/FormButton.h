@@ -2,7 +2,7 @@
 
 #include <QPushButton>
 
-/// A push button of the editors' forms; the default one is in the colour of the selection.
+/// A push button of forms and panels; the default one is in the colour of the selection.
 class FormButton : public QPushButton
 {
     Q_OBJECT

@@ -1,4 +1,4 @@
-#include "editors/FormButton.h"
+#include "widgets/FormButton.h"
 
 #include "widgets/ButtonFace.h"
 #include "widgets/HighContrast.h"
