@@ -5,6 +5,8 @@
 #include <QScrollBar>
 #include <QWheelEvent>
 
+#include <algorithm>
+
 CVSyncScrollView::CVSyncScrollView(QWidget* parent)
     : QScrollArea(parent)
 {
@@ -20,9 +22,9 @@ void CVSyncScrollView::setVerticalSyncScrollView(CVSyncScrollView* other)
     if (other) {
         connect(other, &CVSyncScrollView::contentBoundsDidChange, this,
                 &CVSyncScrollView::verticalSyncViewContentBoundsDidChange);
-        connect(other, &CVSyncScrollView::viewportDidResize, this,
-                &CVSyncScrollView::makeRoomForScrollBars, Qt::UniqueConnection);
-        makeRoomForScrollBars();
+        connect(other, &CVSyncScrollView::viewportDidResize, this, &CVSyncScrollView::keepAsSmall,
+                Qt::UniqueConnection);
+        keepAsSmall();
     }
 }
 
@@ -33,9 +35,9 @@ void CVSyncScrollView::setHorizontalSyncScrollView(CVSyncScrollView* other)
     if (other) {
         connect(other, &CVSyncScrollView::contentBoundsDidChange, this,
                 &CVSyncScrollView::horizontalSyncViewContentBoundsDidChange);
-        connect(other, &CVSyncScrollView::viewportDidResize, this,
-                &CVSyncScrollView::makeRoomForScrollBars, Qt::UniqueConnection);
-        makeRoomForScrollBars();
+        connect(other, &CVSyncScrollView::viewportDidResize, this, &CVSyncScrollView::keepAsSmall,
+                Qt::UniqueConnection);
+        keepAsSmall();
     }
 }
 
@@ -46,7 +48,7 @@ void CVSyncScrollView::stopVerticalSync()
                    &CVSyncScrollView::verticalSyncViewContentBoundsDidChange);
     }
     m_verticalSyncScrollView = nullptr;
-    makeRoomForScrollBars();
+    keepAsSmall();
 }
 
 void CVSyncScrollView::stopHorizontalSync()
@@ -56,7 +58,7 @@ void CVSyncScrollView::stopHorizontalSync()
                    &CVSyncScrollView::horizontalSyncViewContentBoundsDidChange);
     }
     m_horizontalSyncScrollView = nullptr;
-    makeRoomForScrollBars();
+    keepAsSmall();
 }
 
 void CVSyncScrollView::stopSync()
@@ -93,6 +95,7 @@ bool CVSyncScrollView::focusNextPrevChild(bool next)
 void CVSyncScrollView::resizeEvent(QResizeEvent* event)
 {
     QScrollArea::resizeEvent(event);
+    keepAsSmall();
     Q_EMIT viewportDidResize();
 }
 
@@ -143,13 +146,17 @@ void CVSyncScrollView::follow(const QPoint& origin)
     }
 }
 
-void CVSyncScrollView::makeRoomForScrollBars()
+QSize CVSyncScrollView::room() const
 {
-    const auto taken = [](const CVSyncScrollView* view) {
-        return view ? view->contentsRect().marginsRemoved(view->viewportMargins()).size() -
-                          view->viewport()->size()
-                    : QSize(0, 0);
+    return viewport()->rect().marginsAdded(viewportMargins()).size();
+}
+
+void CVSyncScrollView::keepAsSmall()
+{
+    // The size of a view that is not seen means nothing.
+    const auto surplus = [this](const CVSyncScrollView* partner) {
+        return partner && partner->isVisible() ? room() - partner->room() : QSize(0, 0);
     };
-    setViewportMargins(0, 0, taken(m_horizontalSyncScrollView).width(),
-                       taken(m_verticalSyncScrollView).height());
+    setViewportMargins(0, 0, std::max(0, surplus(m_horizontalSyncScrollView).width()),
+                       std::max(0, surplus(m_verticalSyncScrollView).height()));
 }

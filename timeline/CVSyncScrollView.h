@@ -6,8 +6,9 @@
 /// A scroll area that keeps in step with others, on one axis each.
 ///
 /// It follows a partner; for two to follow each other, each is told of the other. A view that
-/// follows announces nothing, so there is no echo. To reach as far as its partner does, it leaves
-/// as much room beside its content as the partner's scroll bars take.
+/// follows announces nothing, so there is no echo. To reach as far as its partner does, it shows no
+/// more than that: it leaves room beside its content for what the partner's scroll bars take, or
+/// what stands beside the partner.
 ///
 /// Ctrl and the wheel are left to the window, and so are the keys, but for Ctrl with Page Up and
 /// Page Down: these, and Shift with the wheel, scroll sideways.
@@ -41,7 +42,7 @@ public:
 Q_SIGNALS:
     /// The view shows another part of its content, and did not just follow a partner there.
     void contentBoundsDidChange();
-    /// The view, or the room that its scroll bars leave, is of another size.
+    /// The room that the view has for its content is of another size.
     void viewportDidResize();
     /// The person begins to scroll the view: by wheel, by key or by scroll bar.
     void willStartLiveScroll();
@@ -58,7 +59,10 @@ private:
     void verticalSyncViewContentBoundsDidChange();
     void horizontalSyncViewContentBoundsDidChange();
     void follow(const QPoint& origin);
-    void makeRoomForScrollBars();
+    /// For the content, beside the scroll bars, if there were no margins.
+    QSize room() const;
+    /// Takes from this view what its partners do not have.
+    void keepAsSmall();
 
     QPointer<CVSyncScrollView> m_verticalSyncScrollView;
     QPointer<CVSyncScrollView> m_horizontalSyncScrollView;

@@ -102,6 +102,22 @@ TEST_F(SynchronisedScrollingTest, partnersReachAsFarDespiteScrollBars)
     EXPECT_EQ(header.contentOrigin().x(), end.x());
     EXPECT_EQ(cards.contentOrigin().y(), end.y());
     EXPECT_EQ(cards.verticalScrollBar()->maximum(), end.y());
+
+    const auto height = cards.viewport()->height();
+    timeline.resize(200, 60);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(cards.viewport()->height(), height - 40) << "something else stands below it";
+    timeline.setContentOrigin({0, 1000});
+    EXPECT_EQ(cards.contentOrigin().y(), timeline.contentOrigin().y());
+    for (auto* const view : {&cards, &timeline}) {
+        view->resize(200, 120);
+        QCoreApplication::processEvents();
+    }
+    EXPECT_EQ(cards.viewport()->height(), height + 20);
+    cards.hide();
+    timeline.resize(200, 300);
+    QCoreApplication::processEvents();
+    EXPECT_GT(timeline.viewport()->height(), 250);
 }
 
 TEST_F(SynchronisedScrollingTest, aPartnerMayGo)
