@@ -61,7 +61,7 @@ void setUpBottomPanel(GradientBox& box)
 }
 
 /// Text in one of the palette's own colours.
-void setUpLabel(QLabel& label, const QColor& color, int pixelSize, QFont::Weight weight)
+void setUpText(QWidget& label, const QColor& color, int pixelSize, QFont::Weight weight)
 {
     QFont font = label.font();
     font.setPixelSize(DesktopFont::pixelSize(pixelSize, pixelSize + largestGrowth));
@@ -273,17 +273,20 @@ void MainWindowController::setUpPanels()
     setUpPanel(*m_ui->timelineHeaderBaseBox, CVAdditions::cvPanelDarkerBorderColor());
     setUpBottomPanel(*m_ui->buttonBar);
     setUpBottomPanel(*m_ui->totalsBar);
+    setUpBottomPanel(*m_ui->noticeBar);
+    m_ui->noticeBar->setGradientEndColor(m_ui->noticeBar->gradientStartColor());
     m_ui->splitView->setDividerColor(CVAdditions::cvPanelDarkerBorderColor());
 
     const auto titleColor = CVAdditions::cvCardTitleColorForHighlightedState(false);
     const auto subtitleColor = CVAdditions::cvCardSubtitleColorForHighlightedState(false);
-    setUpLabel(*m_ui->cardsTitle, titleColor, 13, QFont::DemiBold);
-    setUpLabel(*m_ui->totalsLabel, CVAdditions::cvTimelineHeaderYearTextColor(), 15,
-               QFont::DemiBold);
-    setUpLabel(*m_ui->minimumZoomLabel, subtitleColor, 12, QFont::Normal);
-    setUpLabel(*m_ui->maximumZoomLabel, subtitleColor, 12, QFont::Normal);
-    setUpLabel(*m_ui->invitationTitle, QColor(0xE6, 0xE6, 0xE6), 20, QFont::DemiBold);
-    setUpLabel(*m_ui->invitationText, QColor(0xB4, 0xB4, 0xB4), 13, QFont::Normal);
+    setUpText(*m_ui->cardsTitle, titleColor, 13, QFont::DemiBold);
+    setUpText(*m_ui->totalsLabel, CVAdditions::cvTimelineHeaderYearTextColor(), 15,
+              QFont::DemiBold);
+    setUpText(*m_ui->noticeBar, titleColor, 13, QFont::Normal);
+    setUpText(*m_ui->minimumZoomLabel, subtitleColor, 12, QFont::Normal);
+    setUpText(*m_ui->maximumZoomLabel, subtitleColor, 12, QFont::Normal);
+    setUpText(*m_ui->invitationTitle, QColor(0xE6, 0xE6, 0xE6), 20, QFont::DemiBold);
+    setUpText(*m_ui->invitationText, QColor(0xB4, 0xB4, 0xB4), 13, QFont::Normal);
 }
 
 void MainWindowController::setUpTotals()
