@@ -13,7 +13,7 @@ class NumberTextFormatter : public OATextFieldFormatter
 {
 public:
     NumberTextFormatter(NumberField::Parser parser, NumberField::Writer writer)
-        : m_parser(parser)
+        : m_parser(std::move(parser))
         , m_writer(std::move(writer))
     {}
 
@@ -25,8 +25,7 @@ public:
 
     PropertyValue objectValueForString(const QString& text) const override
     {
-        const auto plain = m_parser(text);
-        return plain ? propertyValue(NSDecimalNumber::fromText(*plain)) : PropertyValue();
+        return propertyValue(m_parser(text).number);
     }
 
     std::optional<PropertyValue> steppedValue(const PropertyValue& value, Step step) const override
@@ -53,15 +52,14 @@ private:
 
 } // namespace
 
-NumberField::NumberField(Parser parser, const Writer& writer, QWidget* parent)
+NumberField::NumberField(const Parser& parser, const Writer& writer, QWidget* parent)
     : OASteppableTextField(parent)
-    , m_parser(parser)
     , m_guard(new TypedTextGuard(*this, [this] { return refusal(); }))
 {
     // Also for digits that read from the right: the decimals stand below each other.
     setAlignment(Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter);
     setNumber(std::nullopt);
-    setWriter(writer);
+    setParserAndWriter(parser, writer);
 }
 
 std::optional<NSDecimalNumber> NumberField::number() const
@@ -75,16 +73,6 @@ void NumberField::setNumber(const std::optional<NSDecimalNumber>& number)
     if (!hasFocus()) {
         showBeginning();
     }
-}
-
-bool NumberField::isReadable() const
-{
-    return number() || text().trimmed().isEmpty();
-}
-
-bool NumberField::validateSteppedObjectValue(const PropertyValue& /*value*/) const
-{
-    return isReadable();
 }
 
 void NumberField::focusOutEvent(QFocusEvent* event)
@@ -108,17 +96,25 @@ void NumberField::showBeginning()
     setCursorPosition(0);
 }
 
-void NumberField::setWriter(const Writer& writer)
+void NumberField::setParserAndWriter(const Parser& parser, const Writer& writer)
 {
-    setFormatter(std::make_unique<NumberTextFormatter>(m_parser, writer));
+    m_parser = parser;
+    setFormatter(std::make_unique<NumberTextFormatter>(parser, writer));
+}
+
+NumberField::Reading NumberField::readingOfPlainNumber(const std::optional<std::string>& plain)
+{
+    const auto number = plain ? NSDecimalNumber::fromText(*plain) : std::nullopt;
+    if (number) {
+        return {.number = number, .refusal = {}};
+    }
+    return {.number = std::nullopt,
+            .refusal =
+                plain ? tr("A number has at most %1 digits.").arg(NSDecimalNumber::maximumDigits)
+                      : tr("This is not a number.")};
 }
 
 QString NumberField::refusal() const
 {
-    if (isReadable()) {
-        return {};
-    }
-    return m_parser(text())
-               ? tr("A number has at most %1 digits.").arg(NSDecimalNumber::maximumDigits)
-               : tr("This is not a number.");
+    return isReadable() ? QString() : m_parser(text()).refusal;
 }

@@ -23,8 +23,14 @@ class NumberField : public OASteppableTextField
     Q_OBJECT
 
 public:
-    /// Finds the number in a text, in plain notation; absent when there is none.
-    using Parser = std::optional<std::string> (*)(const QString& text);
+    /// What a text says.
+    struct Reading
+    {
+        std::optional<NSDecimalNumber> number;
+        /// Why there is no number, in one line.
+        QString refusal;
+    };
+    using Parser = std::function<Reading(const QString& text)>;
     /// Writes a number, given in plain notation.
     using Writer = std::function<QString(std::string_view number)>;
 
@@ -32,21 +38,20 @@ public:
     std::optional<NSDecimalNumber> number() const;
     void setNumber(const std::optional<NSDecimalNumber>& number);
 
-    /// Whether the text is a number, or there is none.
-    bool isReadable() const;
-
     TypedTextGuard& guard() const { return *m_guard; }
-
-    bool validateSteppedObjectValue(const PropertyValue& value) const override;
 
 protected:
     void focusOutEvent(QFocusEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
 
-    NumberField(Parser parser, const Writer& writer, QWidget* parent);
+    NumberField(const Parser& parser, const Writer& writer, QWidget* parent);
 
     /// The number is written anew, unless what was typed is none.
-    void setWriter(const Writer& writer);
+    void setParserAndWriter(const Parser& parser, const Writer& writer);
+
+    /// The number that stands there in plain notation; refused when it has too many digits, or is
+    /// absent.
+    static Reading readingOfPlainNumber(const std::optional<std::string>& plain);
 
 private:
     QString refusal() const;

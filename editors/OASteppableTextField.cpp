@@ -45,6 +45,9 @@ OASteppableTextField::~OASteppableTextField() = default;
 void OASteppableTextField::setFormatter(std::unique_ptr<const OATextFieldFormatter> formatter)
 {
     m_formatter = std::move(formatter);
+    if (!isReadable()) {
+        readText(text());
+    }
     showReadableValueAnew();
 }
 
@@ -57,6 +60,11 @@ void OASteppableTextField::setObjectValue(const PropertyValue& value)
     showObjectValue();
 }
 
+bool OASteppableTextField::isReadable() const
+{
+    return !isAbsent(m_objectValue) || text().trimmed().isEmpty();
+}
+
 bool OASteppableTextField::validateSteppedObjectValue(const PropertyValue& /*value*/) const
 {
     return true;
@@ -64,7 +72,7 @@ bool OASteppableTextField::validateSteppedObjectValue(const PropertyValue& /*val
 
 bool OASteppableTextField::stepObjectValue(Step step)
 {
-    if (isReadOnly() || !m_formatter) {
+    if (isReadOnly() || !m_formatter || !isReadable()) {
         return false;
     }
     const auto stepped = m_formatter->steppedValue(m_objectValue, step);
@@ -115,7 +123,13 @@ void OASteppableTextField::readText(const QString& text)
     if (m_isShowing) {
         return;
     }
-    m_objectValue = m_formatter ? m_formatter->objectValueForString(text) : PropertyValue(text);
+    if (!m_formatter) {
+        m_objectValue = text;
+    } else if (text == m_writtenText) {
+        m_objectValue = m_writtenValue;
+    } else {
+        m_objectValue = m_formatter->objectValueForString(text);
+    }
     announce();
 }
 
@@ -123,6 +137,8 @@ void OASteppableTextField::showObjectValue()
 {
     const auto shown = m_formatter ? m_formatter->stringForObjectValue(m_objectValue)
                                    : propertyValueAs<QString>(m_objectValue).value_or(QString());
+    m_writtenText = shown;
+    m_writtenValue = m_objectValue;
     if (shown != text()) {
         const QScopedValueRollback isShowing(m_isShowing, true);
         setText(shown);

@@ -11,7 +11,8 @@
 ///
 /// The value follows the text as it is typed. A text that cannot be read makes it absent and stays,
 /// so that it can be corrected; one that can is written anew, in the formatter's own hand, when the
-/// field loses the focus or Return is pressed.
+/// field loses the focus or Return is pressed. What the field wrote last stands for the value that
+/// it was written for, also when it is typed again: a text need not say all of a value.
 ///
 /// A field without a formatter has its text for a value, and does not step.
 class OASteppableTextField : public StyledTextField
@@ -26,7 +27,7 @@ public:
 
     /// Null for none.
     const OATextFieldFormatter* formatter() const { return m_formatter.get(); }
-    /// Writes the present value anew, unless it is absent.
+    /// Reads a text anew that could not be read, and writes the value anew unless it is absent.
     void setFormatter(std::unique_ptr<const OATextFieldFormatter> formatter);
 
     const PropertyValue& objectValue() const { return m_objectValue; }
@@ -34,10 +35,13 @@ public:
     /// objectValueDidChange() leaves alone what is being typed.
     void setObjectValue(const PropertyValue& value);
 
+    /// Whether the text can be read, or there is none.
+    bool isReadable() const;
+
     /// Whether a step may lead to this value. Here it may lead to any.
     virtual bool validateSteppedObjectValue(const PropertyValue& value) const;
-    /// Steps once, as a key does. False, with nothing changed, when the field cannot be edited, the
-    /// formatter does not step, or the step may not lead where it would.
+    /// Steps once, as a key does. False, with nothing changed, when the field cannot be edited, its
+    /// text cannot be read, the formatter does not step, or the step may not lead where it would.
     bool stepObjectValue(Step step);
 
     /// The value that stepperAction() was given last; 0 at first.
@@ -67,6 +71,9 @@ private:
 
     std::unique_ptr<const OATextFieldFormatter> m_formatter;
     PropertyValue m_objectValue;
+    /// What the field wrote last, and for which value.
+    QString m_writtenText;
+    PropertyValue m_writtenValue;
     double m_stepperTracking = 0.0;
     bool m_isShowing = false;
     bool m_isAnnouncing = false;

@@ -14,7 +14,9 @@ std::optional<NSDecimalNumber> scaled(const NSDecimalNumber& number, const char*
 } // namespace
 
 RateField::RateField(QWidget* parent)
-    : NumberField(&NumberParser::rate, &NumberFormatter::rateText, parent)
+    : NumberField(
+          [](const QString& text) { return readingOfPlainNumber(NumberParser::rate(text)); },
+          &NumberFormatter::rateText, parent)
 {}
 
 std::optional<double> RateField::rate() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSet>
 #include <QStringList>
 
 #include <optional>
@@ -8,11 +9,14 @@
 namespace Currency {
 
 /// The code of the currency that is used where the person is; absent when the locale of their money
-/// names no country, or one without a currency.
+/// names no country, or one without a currency of its own ("XXX").
 std::optional<QString> localCode();
 
 /// Every code that the system knows, those of former currencies too, in its own order.
 QStringList isoCodes();
+
+/// The codes of the currencies that people pay with today.
+const QSet<QString>& codesInUse();
 
 /// Whether a code has the form of one: three letters A to Z, in either case. There need not be such
 /// a currency.
@@ -30,5 +34,14 @@ int decimals(const std::optional<QString>& code);
 /// either case, a sign that the locale uses for some currency ("kr"), or a currency sign, with up
 /// to three letters ("US$", "£").
 bool isSignOrCode(const QString& text);
+
+/// Whether such a text says that the amount is in the currency with this code: the code itself, or
+/// a sign that people write for it here or elsewhere, though it may be that of others too ("$").
+bool isSignOrCodeOf(const QString& text, const QString& code);
+
+/// The currency that people here mean by a sign: the local one if it has that sign, else the one
+/// that has it to itself in the locale, else the one that it commonly stands for ("$" is the
+/// dollar of the United States). Absent when that cannot be told.
+std::optional<QString> codeForSign(const QString& sign);
 
 } // namespace Currency

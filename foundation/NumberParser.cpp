@@ -236,19 +236,55 @@ bool isGrouped(const Groups& groups)
            (first.size() < thousand && std::all_of(begin, end, hasSize(thousand - 1)));
 }
 
-/// Whether the last separator marks decimals. Absent when that cannot be told.
-std::optional<bool> hasDecimals(const Groups& groups, Kind kind)
+/// What the last separator of a number marks.
+struct LastMark
+{
+    bool isOfDecimals;
+    /// Whether it could be the other as well, were it not for the locale.
+    bool isAmbiguous = false;
+    bool isOfLocale = true;
+};
+
+LastMark lastMark(const Groups& groups, Kind kind)
 {
     const auto& separators = groups.separators;
     if (separators.empty() || !canMarkDecimals(separators.back()) ||
         std::ranges::count(separators, separators.back()) > 1) {
-        return false;
+        return {.isOfDecimals = false};
     }
-    const bool isAmbiguous = separators.size() == 1 && kind == Kind::Amount && isGrouped(groups);
-    return isAmbiguous ? marksDecimalsHere(separators.back()) : true;
+    if (separators.size() > 1 || kind == Kind::Rate || !isGrouped(groups)) {
+        return {.isOfDecimals = true};
+    }
+    const auto isOfDecimals = marksDecimalsHere(separators.back());
+    return {.isOfDecimals = isOfDecimals.value_or(true),
+            .isAmbiguous = true,
+            .isOfLocale = isOfDecimals.has_value()};
 }
 
-std::optional<std::string> parsed(const QString& text, Kind kind)
+/// The number in plain notation; absent when the digits before its decimals are not grouped as
+/// thousands are.
+std::optional<std::string> plainNumber(Groups groups, bool isNegative, bool hasDecimals)
+{
+    std::string decimals;
+    if (hasDecimals) {
+        decimals = groups.digits.back();
+        groups.digits.pop_back();
+        groups.separators.pop_back();
+    }
+    if (!isGrouped(groups)) {
+        return std::nullopt;
+    }
+    std::string plain(isNegative ? "-" : "");
+    for (const auto& group : groups.digits) {
+        plain += group;
+    }
+    if (groups.digits.front().empty()) {
+        plain += '0';
+    }
+    return decimals.empty() ? plain : plain + '.' + decimals;
+}
+
+std::optional<NumberParser::Amount> parsed(const QString& text, Kind kind)
 {
     auto typed = split(text);
     if (!typed) {
@@ -258,41 +294,39 @@ std::optional<std::string> parsed(const QString& text, Kind kind)
     if (!isNegative || !takeUnits(*typed, kind)) {
         return std::nullopt;
     }
-    auto groups = groupsOf(typed->number);
+    const auto groups = groupsOf(typed->number);
     if (!groups) {
         return std::nullopt;
     }
-    const auto isFraction = hasDecimals(*groups, kind);
-    if (!isFraction) {
+    const auto mark = lastMark(*groups, kind);
+    const auto number = plainNumber(*groups, *isNegative, mark.isOfDecimals);
+    if (!number) {
         return std::nullopt;
     }
-    std::string decimals;
-    if (*isFraction) {
-        decimals = groups->digits.back();
-        groups->digits.pop_back();
-        groups->separators.pop_back();
+    NumberParser::Amount amount{.number = *number,
+                                .numberInThousands = std::nullopt,
+                                .areDecimalsSure = mark.isOfLocale,
+                                .currencies = {}};
+    if (mark.isOfDecimals && mark.isAmbiguous) {
+        amount.numberInThousands = plainNumber(*groups, *isNegative, false);
     }
-    if (!isGrouped(*groups)) {
-        return std::nullopt;
+    for (const auto& unit : {typed->before, typed->behind}) {
+        if (!unit.empty()) {
+            amount.currencies.append(QString::fromStdU32String(unit));
+        }
     }
-    std::string plain(*isNegative ? "-" : "");
-    for (const auto& group : groups->digits) {
-        plain += group;
-    }
-    if (groups->digits.front().empty()) {
-        plain += '0';
-    }
-    return decimals.empty() ? plain : plain + '.' + decimals;
+    return amount;
 }
 
 } // namespace
 
-std::optional<std::string> NumberParser::amount(const QString& text)
+std::optional<NumberParser::Amount> NumberParser::amount(const QString& text)
 {
     return parsed(text, Kind::Amount);
 }
 
 std::optional<std::string> NumberParser::rate(const QString& text)
 {
-    return parsed(text, Kind::Rate);
+    const auto rate = parsed(text, Kind::Rate);
+    return rate ? std::optional(rate->number) : std::nullopt;
 }

@@ -112,6 +112,62 @@ TEST_F(NumberFieldTest, ATextThatIsNoNumberIsMarkedAndKeepsTheFocusInItsForm)
     EXPECT_TRUE(field.guard().commitEditing());
 }
 
+TEST_F(NumberFieldTest, AnAmountIsRefusedThatItsCurrencyCannotHave)
+{
+    struct Row
+    {
+        const char* locale;
+        const char* currency;
+        const char* typed;
+        const char* number;
+        const char* reason;
+    };
+    const auto* const unreadable = "unreadable";
+    for (const auto& row : std::to_array<Row>({
+             {"en_GB", "EUR", "€ 4.000", unreadable,
+              "An amount here has at most 2 decimals. Did you mean 4,000.00?"},
+             {"de_DE", "EUR", "€ 4.000", "4000", ""},
+             {"de_DE", "EUR", "4,000", unreadable,
+              "An amount here has at most 2 decimals. Did you mean 4.000,00?"},
+             {"en_GB", "GBP", "0.125", unreadable, "An amount here has at most 2 decimals."},
+             {"en_GB", "JPY", "500.5", unreadable, "An amount here has no decimals."},
+             {"en_GB", "KWD", "1.234", "1.234", ""},
+             {"en_GB", "KWD", "1.2345", unreadable, "An amount here has at most 3 decimals."},
+             {"de_CH", "KWD", "1,234", unreadable, "This can mean 1’234.000 or 1.234."},
+             {"en_GB", "GBP", "gbp 1", "1", ""},
+             {"en_GB", "AUD", "$1", "1", ""},
+             {"en_GB", "GBP", "€4", unreadable, "Amounts here are in GBP, not in €."},
+             {"en_GB", "GBP", "£4 EUR", unreadable, "Amounts here are in GBP, not in EUR."},
+             {"en_GB", "GOLD", "€4", "4", ""},
+             {"en_GB", "GBP", "1234567890123456789012345678901234567890", unreadable,
+              "A number has at most 38 digits."},
+         })) {
+        const ScopedRegionalSettings there({row.locale, row.locale, "Europe/London"});
+        field.setCurrency(QString::fromLatin1(row.currency));
+        field.setText(QString::fromUtf8(row.typed));
+        field.guard().commitEditing();
+        EXPECT_EQ(numberIn(field), row.number) << row.locale << ' ' << row.typed;
+        EXPECT_EQ(field.invalidReason().toStdString(), row.reason) << row.typed;
+    }
+}
+
+TEST_F(NumberFieldTest, WhatWasStoredIsTakenAsItIsAlsoWhenTypedAgain)
+{
+    field.setCurrency(u"GBP"_qs);
+    field.setNumber(NSDecimalNumber::fromText("1.234"));
+    other.setFocus();
+    EXPECT_EQ(numberIn(field), "1.234");
+    EXPECT_EQ(field.invalidReason(), QString());
+    field.setFocus();
+    type(field, u"1.23"_qs);
+    EXPECT_EQ(numberIn(field), "1.23");
+    QTest::keyClicks(&field, u"4"_qs);
+    EXPECT_EQ(numberIn(field), "1.234");
+    QTest::keyClick(&field, Qt::Key_Up);
+    EXPECT_EQ(numberIn(field), "2.234");
+    EXPECT_TRUE(field.guard().commitEditing());
+}
+
 TEST_F(NumberFieldTest, OfTwoTextsThatAreNoNumbersTheLaterKeepsTheFocus)
 {
     AmountField second(&form);

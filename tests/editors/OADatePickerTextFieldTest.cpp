@@ -121,6 +121,8 @@ TEST_F(OADatePickerTextFieldTest, TheDateFollowsTheTextAsItIsTyped)
     QTest::keyClick(&field, Qt::Key_Return);
     other.setFocus();
     EXPECT_EQ(field.text(), u"5 Junex"_qs);
+    EXPECT_FALSE(field.stepObjectValue(OATextFieldFormatter::Step::Down));
+    EXPECT_EQ(field.text(), u"5 Junex"_qs);
 
     field.setFocus();
     field.end(false);
@@ -145,6 +147,10 @@ TEST_F(OADatePickerTextFieldTest, LeavingTheFieldKeepsTheTimeOfDay)
     QTest::keyClick(&field, Qt::Key_Return);
     EXPECT_EQ(field.date(), date);
     EXPECT_TRUE(announced.empty());
+    type(u"01/07/201"_qs);
+    EXPECT_NE(field.date(), date);
+    QTest::keyClicks(&field, u"3"_qs);
+    EXPECT_EQ(field.date(), date) << "typed back to what it was";
 }
 
 TEST_F(OADatePickerTextFieldTest, AssistiveProgramsSetTheTextAndFindTheButton)

@@ -18,6 +18,16 @@ struct Row
     const char* number; ///< "-" when the text is refused.
 };
 
+/// Of an amount that could be another one too, both: "1.234|1234"; "?" when nobody can tell.
+std::optional<std::string> readAmount(const QString& text)
+{
+    const auto amount = NumberParser::amount(text);
+    if (!amount || !amount->numberInThousands) {
+        return amount ? std::optional(amount->number) : std::nullopt;
+    }
+    return amount->number + (amount->areDecimalsSure ? "|" : "?") + *amount->numberInThousands;
+}
+
 void expectReading(std::optional<std::string> (*read)(const QString&), const Row& row)
 {
     const ScopedRegionalSettings regional({"en_GB", row.locale, "Europe/London"});
@@ -41,12 +51,13 @@ TEST(NumberParserTest, ReadsWhatMarksDecimalsAndThousandsInTheLocaleOrOnlyCan)
         {"en_GB", ".5", "0.5"},
         {"en_GB", "5.", "5"},
         // One sign that could mean either.
-        {"en_GB", "1.234", "1.234"},
+        {"en_GB", "1.234", "1.234|1234"},
+        {"en_GB", "€ 4.000", "4.000|4000"},
         {"en_GB", "1,234", "1234"},
         {"de_DE", "1.234", "1234"},
-        {"de_DE", "1,234", "1.234"},
+        {"de_DE", "1,234", "1.234|1234"},
         {"de_AT", "1.234", "1234"},
-        {"fr_FR", "1.234", "-"},
+        {"fr_FR", "1.234", "1.234?1234"},
         // One that could not.
         {"de_DE", "0.125", "0.125"},
         {"de_DE", "12.50", "12.50"},
@@ -75,7 +86,7 @@ TEST(NumberParserTest, ReadsWhatMarksDecimalsAndThousandsInTheLocaleOrOnlyCan)
         {"en_GB", "nan", "-"},
     });
     for (const auto& row : rows) {
-        expectReading(NumberParser::amount, row);
+        expectReading(readAmount, row);
     }
 }
 
@@ -110,8 +121,46 @@ TEST(NumberParserTest, LooksPastBlanksSignsAndCurrenciesAroundAnAmount)
         {"en_GB", "5%", "-"},
     });
     for (const auto& row : rows) {
-        expectReading(NumberParser::amount, row);
+        expectReading(readAmount, row);
     }
+}
+
+TEST(CurrencyTest, KnowsWhoseASignIs)
+{
+    struct Sign
+    {
+        const char* locale;
+        const char* sign;
+        const char* code;     ///< What it means alone; "-" when that cannot be told.
+        const char* signOf;   ///< Whose it may be as well,
+        const char* noSignOf; ///< and whose it cannot be.
+    };
+    for (const auto& row : std::to_array<Sign>({
+             {"en_GB", "£", "GBP", "GBP", "USD"},
+             {"en_GB", "$", "USD", "AUD", "GBP"},
+             {"en_US", "$", "USD", "CAD", "EUR"},
+             {"en_CA", "$", "CAD", "USD", "EUR"},
+             {"en_US", "US$", "USD", "USD", "CAD"},
+             {"en_US", "C$", "NIO", "CAD", "USD"},
+             {"sv_SE", "€", "EUR", "EUR", "SEK"},
+             {"sv_SE", "kr", "SEK", "NOK", "EUR"},
+             {"en_GB", "kr", "-", "DKK", "GBP"},
+             {"da_DK", "kr.", "DKK", "DKK", "EUR"},
+             {"ja_JP", "¥", "JPY", "CNY", "EUR"},
+             {"en_GB", "jpy", "-", "JPY", "GBP"},
+         })) {
+        const ScopedRegionalSettings regional({"en_GB", row.locale, "Europe/London"});
+        const auto sign = QString::fromUtf8(row.sign);
+        SCOPED_TRACE(std::string(row.locale) + ' ' + row.sign);
+        EXPECT_EQ(Currency::codeForSign(sign).value_or(u"-"_qs).toStdString(), row.code);
+        EXPECT_TRUE(Currency::isSignOrCodeOf(sign, QString::fromLatin1(row.signOf)));
+        EXPECT_FALSE(Currency::isSignOrCodeOf(sign, QString::fromLatin1(row.noSignOf)));
+    }
+    const ScopedRegionalSettings antarctica({"en_AQ", "en_AQ", "UTC"});
+    EXPECT_EQ(Currency::localCode(), std::nullopt);
+    const auto inUse = Currency::codesInUse();
+    EXPECT_TRUE(inUse.contains(u"GBP"_qs));
+    EXPECT_FALSE(inUse.contains(u"DEM"_qs) || inUse.contains(u"XAU"_qs));
 }
 
 TEST(NumberParserTest, ReadsAPercentageWithOrWithoutItsSignAndNeverInThousands)
@@ -154,15 +203,19 @@ TEST(NumberParserTest, ReadsWhateverTheFormatterWrites)
                 return NSDecimalNumber::fromText(read.value_or(""));
             };
             for (const auto& currency : {u"GBP"_qs, u"JPY"_qs, u"KWD"_qs}) {
-                EXPECT_EQ(
-                    valueOf(NumberParser::amount(NumberFormatter::amountText(number, currency))),
-                    value);
+                const auto text = NumberFormatter::amountText(number, currency);
+                EXPECT_EQ(valueOf(NumberParser::amount(text).value().number), value);
             }
             EXPECT_EQ(valueOf(NumberParser::rate(NumberFormatter::rateText(number))), value);
         }
         for (const auto& code : Currency::isoCodes()) {
-            EXPECT_TRUE(NumberParser::amount(NumberFormatter::currencyText("-1234.5", code)))
-                << locale << ": " << NumberFormatter::currencyText("-1234.5", code).toStdString();
+            const auto text = NumberFormatter::currencyText("-1234.5", code);
+            const auto amount = NumberParser::amount(text);
+            ASSERT_TRUE(amount) << locale << ": " << text.toStdString();
+            EXPECT_TRUE(std::ranges::all_of(
+                amount->currencies,
+                [&code](const QString& sign) { return Currency::isSignOrCodeOf(sign, code); }))
+                << locale << ": " << text.toStdString();
         }
     }
 }

@@ -61,8 +61,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto typed = input.takeRest();
     checkDecimal(typed);
     const auto text = QString::fromUtf8(typed.data(), static_cast<qsizetype>(typed.size()));
-    for (auto* const read : {NumberParser::amount, NumberParser::rate}) {
-        if (const auto number = read(text)) {
+    const auto amount = NumberParser::amount(text);
+    for (const auto& number :
+         {amount ? std::optional(amount->number) : std::nullopt,
+          amount ? amount->numberInThousands : std::nullopt, NumberParser::rate(text)}) {
+        if (number) {
             require(isPlain(*number), "a number is answered plainly");
             checkDecimal(*number);
         }
