@@ -71,7 +71,8 @@ public:
 
     /// Called for each changed record before it is saved, and free to change the record: what it
     /// corrects is saved too, and undone together with the change that it corrects. Answers whether
-    /// the record may be saved. Records that are new to the file are not asked.
+    /// the record may be saved. Records that are new to the file are not asked, nor those that only
+    /// undo or redo changed: these are saved as they were.
     virtual bool validateForUpdate();
 
     KeyValueObservable* observableValueForKey(std::string_view key) override;
@@ -104,6 +105,8 @@ private:
         Touched = 16,
         /// The record has a key: it was saved once.
         HasID = 32,
+        /// Somebody changed the record since the last save, other than by undo or redo.
+        Edited = 64,
     };
 
     bool hasState(State state) const { return (m_state & state) != 0; }

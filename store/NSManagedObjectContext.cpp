@@ -143,7 +143,7 @@ std::vector<NSManagedObject*> NSManagedObjectContext::deletedObjects() const
 void NSManagedObjectContext::save()
 {
     processPendingChanges();
-    const bool areValid = validateUpdatedObjects();
+    const bool areValid = validateEditedObjects();
     // A save ends the step that the person is making, with what validation corrected in it.
     m_undoManager.closeEventGroup();
     if (!areValid) {
@@ -162,26 +162,29 @@ void NSManagedObjectContext::save()
     for (auto* const record : std::exchange(m_touched, {})) {
         record->setState(NSManagedObject::Persisted, !record->isDeleted());
         record->setState(NSManagedObject::Touched, false);
+        record->setState(NSManagedObject::Edited, false);
         record->m_changed = 0;
     }
     Q_EMIT didSave();
 }
 
-bool NSManagedObjectContext::validateUpdatedObjects()
+bool NSManagedObjectContext::validateEditedObjects()
 {
     m_isValidating = true;
     const auto done = qScopeGuard([this] { m_isValidating = false; });
     bool areValid = true;
     // A correction may change further records: those are asked too, each record once.
     std::vector<NSManagedObject*> asked;
-    for (auto updated = updatedObjects(); !updated.empty();) {
-        for (auto* const record : updated) {
+    const auto isToBeAsked = [&asked](const NSManagedObject* record) {
+        return record->isUpdated() && record->hasState(NSManagedObject::Edited) &&
+               std::ranges::count(asked, record) == 0;
+    };
+    for (auto edited = touchedWhere(isToBeAsked); !edited.empty();
+         edited = touchedWhere(isToBeAsked)) {
+        for (auto* const record : edited) {
             areValid = record->validateForUpdate() && areValid;
             asked.push_back(record);
         }
-        updated = touchedWhere([&asked](const NSManagedObject* record) {
-            return record->isUpdated() && std::ranges::count(asked, record) == 0;
-        });
     }
     processPendingChanges();
     return areValid;
@@ -386,8 +389,9 @@ void NSManagedObjectContext::willChangeAttribute(NSManagedObject& record, std::s
             }
         }
     }
+    const bool wasEdited = record.hasState(NSManagedObject::Edited);
     markChanged(record, attribute);
-    logStep(ChangeStep::AttributeSet{&record, attribute, std::move(oldValue)});
+    logStep(ChangeStep::AttributeSet{&record, attribute, std::move(oldValue), wasEdited});
 }
 
 void NSManagedObjectContext::changeTarget(NSManagedObject& record,
@@ -415,8 +419,9 @@ void NSManagedObjectContext::changeTarget(NSManagedObject& record,
             joined->push_back(&record);
         }
     }
+    const bool wasEdited = record.hasState(NSManagedObject::Edited);
     markChanged(record, record.propertyNumber(toOne));
-    logStep(ChangeStep::TargetSet{&record, &toOne, oldTarget, target});
+    logStep(ChangeStep::TargetSet{&record, &toOne, oldTarget, target, wasEdited});
     record.storeTarget(toOne, target);
 }
 
@@ -427,6 +432,9 @@ void NSManagedObjectContext::markChanged(NSManagedObject& record, std::size_t pr
     if (!isTransient) {
         record.m_changed |= std::uint32_t(1) << property;
         touch(record);
+        if (!m_isTakingBack) {
+            record.setState(NSManagedObject::Edited, true);
+        }
     }
 }
 
@@ -488,12 +496,23 @@ void NSManagedObjectContext::takeBack(const ChangeLog& log)
         void operator()(const ChangeStep::AttributeSet& step) const
         {
             step.record->setAttribute(step.attribute, step.oldValue);
+            takeMarkBack(*step.record, step.wasEdited);
         }
         void operator()(const ChangeStep::TargetSet& step) const
         {
             context.changeTarget(*step.record, *step.relationship, step.oldTarget);
+            takeMarkBack(*step.record, step.wasEdited);
+        }
+        /// An edit that was never saved leaves no trace; one that was, or was redone, is none.
+        static void takeMarkBack(NSManagedObject& record, bool wasEdited)
+        {
+            if (!wasEdited) {
+                record.setState(NSManagedObject::Edited, false);
+            }
         }
     };
+    m_isTakingBack = true;
+    const auto done = qScopeGuard([this] { m_isTakingBack = false; });
     std::for_each(log.rbegin(), log.rend(),
                   [this](const auto& step) { std::visit(Inverse{*this}, step); });
 }

@@ -72,8 +72,9 @@ public:
 
     // Saving.
 
-    /// Lets changed records validate themselves, then writes all changes in one transaction. On
-    /// failure throws NSError: the file is as it was, and every change is still here.
+    /// Lets changed records validate themselves, save those that undo or redo put back as they
+    /// were; then writes all changes in one transaction. On failure throws NSError: the file is as
+    /// it was, and every change is still here.
     void save();
 
     void objectDidBeginEditing(NSEditor& editor);
@@ -151,7 +152,7 @@ private:
     void setDeleted(NSManagedObject& record, bool isDeleted);
     void processLog(ChangeLog log);
     void takeBack(const ChangeLog& log);
-    bool validateUpdatedObjects();
+    bool validateEditedObjects();
     template <typename Predicate>
     std::vector<NSManagedObject*> touchedWhere(Predicate predicate) const;
 
@@ -162,6 +163,7 @@ private:
     std::vector<NSEditor*> m_editors;
     ChangeLog m_log;
     bool m_isValidating = false;
+    bool m_isTakingBack = false;
     bool m_isProcessingScheduled = false;
     NSUndoManager m_undoManager;
 };

@@ -21,7 +21,8 @@ struct ObjectChanges
     bool isEmpty() const { return inserted.empty() && updated.empty() && deleted.empty(); }
 };
 
-/// What was done to the records of a context, in order, with what is needed to take each step back.
+/// What was done to the records of a context, in order, with what is needed to take each step back:
+/// the value and whether the record was edited since the last save.
 namespace ChangeStep {
 
 struct Inserted
@@ -37,6 +38,7 @@ struct AttributeSet
     NSManagedObject* record;
     std::size_t attribute;
     PropertyValue oldValue;
+    bool wasEdited;
 };
 struct TargetSet
 {
@@ -44,6 +46,7 @@ struct TargetSet
     const NSRelationshipDescription* relationship;
     NSManagedObject* oldTarget;
     NSManagedObject* newTarget;
+    bool wasEdited;
 };
 
 } // namespace ChangeStep

@@ -121,6 +121,7 @@ TEST(CVStatementTest, CorrectsItsAmountsWhenSavedAndUndoTakesTheCorrectionBack)
         {"all rules at once", "5 10 0", "balance", "20.50", "20.50 20.50 20.50"},
         {"equal as doubles", "5 9007199254740992 1", "balance", "9007199254740993",
          "9007199254740993 9007199254740992 1"},
+        {"it was above its limit before", "2000 1000 50", "payment", "60", "2000 2000 60"},
         {"a tiny payment is one", "5 10 1", "payment", "1e-9", "5 10 0.000000001"},
     });
     for (const auto& row : rows) {
@@ -134,13 +135,17 @@ TEST(CVStatementTest, CorrectsItsAmountsWhenSavedAndUndoTakesTheCorrectionBack)
         statement.setValueForKey(decimal(row.value), row.key);
         store.save();
         EXPECT_EQ(amounts(statement), row.after);
+        const auto inFile = [&store] {
+            NSManagedObjectContext fresh(store.context().persistentStoreCoordinator());
+            const auto* const saved = fresh.executeFetchRequest({"Statement"}).at(0);
+            return amounts(static_cast<const CVStatement&>(*saved));
+        };
         store.context().undoManager().undo();
-        EXPECT_EQ(amounts(statement), row.before);
+        store.save();
+        EXPECT_EQ(inFile(), row.before);
         store.context().undoManager().redo();
         store.save();
-        store.reopen();
-        const auto* const saved = store.context().executeFetchRequest({"Statement"}).at(0);
-        EXPECT_EQ(amounts(static_cast<const CVStatement&>(*saved)), row.after);
+        EXPECT_EQ(inFile(), row.after);
     }
 }
 

@@ -155,7 +155,7 @@ void PlainModel::swapWithLatest(std::vector<Step>& from, std::vector<Step>& to)
         auto step = std::move(from.back());
         from.pop_back();
         to.push_back({std::exchange(now, step.records), step.name});
-        save();
+        saved = now;
     }
 }
 

@@ -73,6 +73,7 @@ public:
 
     /// The person changed the records into `after`, in one step of this name.
     void change(const PlainRecords& after, const QString& name);
+    /// Takes the latest step back, and saves what was there before as it was.
     void undo() { swapWithLatest(m_undoSteps, m_redoSteps); }
     void redo() { swapWithLatest(m_redoSteps, m_undoSteps); }
     /// Statements that are in the file and are no longer as they are there are corrected.
