@@ -50,6 +50,12 @@ CVCard* CVCardTableView::cardAtRow(int row) const
     return m_cards ? static_cast<CVCard*>(m_cards->objectAtRow(row)) : nullptr;
 }
 
+std::optional<int> CVCardTableView::rowForCard(const CVCard* card) const
+{
+    const auto index = m_cards && card ? m_cards->indexOfObject(card) : std::nullopt;
+    return index ? std::optional(static_cast<int>(*index)) : std::nullopt;
+}
+
 CVCardTableRowView* CVCardTableView::rowView(int row) const
 {
     const auto found = m_rowViews.find(row);

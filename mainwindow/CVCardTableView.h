@@ -32,6 +32,8 @@ public:
 
     /// The card of a row; null when the row is not there.
     CVCard* cardAtRow(int row) const;
+    /// Absent for a card that is not listed.
+    std::optional<int> rowForCard(const CVCard* card) const;
     /// The view of a row that is in view; else null.
     CVCardTableRowView* rowView(int row) const;
     /// The row of the row view that `view` is in; absent when it is in none.

@@ -6,7 +6,14 @@
 #include "editors/CVStatementPopoverController.h"
 #include "foundation/Log.h"
 #include "foundation/UserDefaults.h"
+#include "mainwindow/CVCardTableRowView.h"
+#include "mainwindow/DeleteKeyGuard.h"
 #include "mainwindow/MainWindowHost.h"
+#include "mainwindow/NoticeText.h"
+#include "mainwindow/WindowNotice.h"
+#include "mainwindow/editing/EditorPlaces.h"
+#include "mainwindow/editing/OpenCardEditor.h"
+#include "mainwindow/editing/OpenStatementEditor.h"
 #include "model/CVManagedObjectContext.h"
 #include "model/CVStatement.h"
 #include "store/NSArrayController.h"
@@ -157,7 +164,7 @@ KeyValueObservable* MainWindowController::observableValueForKey(std::string_view
         return m_context;
     }
     if (key == "selectedStatement") {
-        return m_selectedStatement;
+        return selectedStatement();
     }
     return KeyValueObject::observableValueForKey(key);
 }
@@ -191,7 +198,12 @@ void MainWindowController::windowDidLoad()
     m_ui->timelineScrollView->setVerticalSyncScrollView(m_ui->cardsScrollView);
     m_observations.push_back(m_cardsController->observe(
         "selectionIndex", [this](const ObservedChange&) { selectionIndexDidChange(); }));
+    m_editorPlaces = std::make_unique<EditorPlaces>(*m_ui->cardsTitleBox, *m_ui->cardsTableView,
+                                                    *m_ui->timelineTableView);
+    m_notice = new WindowNotice(*m_ui->noticeBar, m_window.get());
+    m_deleteKeyGuard = new DeleteKeyGuard(m_window.get());
     setUpTables();
+    setUpEditors();
     handle(restoreTimelineGeometryNotification, &MainWindowController::restoreTimelineGeometry);
     handle(newCardNotification, &MainWindowController::showNewCardPopoverIfNeeded);
     handle(newStatementNotification, &MainWindowController::showNewStatementPopoverForSelectedCard);
@@ -252,6 +264,21 @@ void MainWindowController::setUpTables()
             m_ui->timelineHeaderView, [this](double width) {
                 m_ui->timelineHeaderView->setFixedWidth(static_cast<int>(width));
             });
+}
+
+/// The editors stand at records: whatever moves those, moves them.
+void MainWindowController::setUpEditors()
+{
+    const auto place = [this] {
+        placeEditors();
+    };
+    connect(m_ui->cardsTableView, &CVCardTableView::didAddRowView, this, place);
+    connect(m_ui->timelineScrollView, &CVTimelineScrollView::timelineWidthDidChange, this, place);
+    connect(m_cardsController.get(), &QAbstractItemModel::rowsInserted, this, place);
+    connect(m_cardsController.get(), &QAbstractItemModel::rowsRemoved, this, place);
+    connect(m_cardsController.get(), &QAbstractItemModel::rowsMoved, this, place);
+    connect(m_cardsController.get(), &QAbstractItemModel::layoutChanged, this, place);
+    connect(m_cardsController.get(), &QAbstractItemModel::modelReset, this, place);
 }
 
 void MainWindowController::setUpOrder()
@@ -336,6 +363,8 @@ void MainWindowController::contextObjectsDidChange()
     redrawTimeline();
     showModified();
     showInvitation();
+    closeEditorsOfGoneRecords();
+    placeEditors();
 }
 
 void MainWindowController::contextDidSave()
@@ -345,6 +374,7 @@ void MainWindowController::contextDidSave()
     showModified();
     tickleCanScale();
     showInvitation();
+    placeEditors();
 }
 
 void MainWindowController::showModified()

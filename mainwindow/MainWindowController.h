@@ -20,13 +20,19 @@
 class CVCardPopoverController;
 class CVStatement;
 class CVStatementPopoverController;
+class DeleteKeyGuard;
+class EditorPlaces;
 class HorizontalScrollAnimation;
 class MainWindowHost;
 class NSArrayController;
 class NSManagedObjectContext;
 class NSUndoManager;
-class QRect;
-class QWidget;
+class OpenCardEditor;
+class OpenStatementEditor;
+class WindowNotice;
+struct EditorDraft;
+struct EditorTarget;
+struct ObjectChanges;
 
 namespace Ui {
 class MainWindow;
@@ -37,8 +43,9 @@ class MainWindow;
 ///
 /// Its duties stand in files of their own: this class's set-up in MainWindowController.cpp, the
 /// list of cards and the two selections in ...CardList.cpp, zoom and what is remembered of the view
-/// in ...Zoom.cpp, the popovers and what is done with what they edited in ...Editing.cpp,
-/// commands, keys and totals in ...Commands.cpp.
+/// in ...Zoom.cpp, opening the editors, and deleting, in ...Editing.cpp, commands, keys and totals
+/// in
+/// ...Commands.cpp. An editor that is open is an object of its own, in editing/.
 class MainWindowController : public QObject,
                              public KeyValueObject,
                              public CVMainWindowDelegate,
@@ -83,9 +90,10 @@ public:
     /// Selects the card alone, and scrolls the list to it.
     void selectCardAndMakeVisible(CVCard& card);
 
-    /// The statement selected on the timeline, or null. It may be one of a card that is not
-    /// selected, or one that was deleted meanwhile.
-    CVStatement* selectedStatement() const { return m_selectedStatement; }
+    /// The statement selected on the timeline, or null, also while that statement is deleted. It
+    /// may be one of a card that is not selected.
+    CVStatement* selectedStatement() const;
+    /// An editor that is open for another statement goes on to this one.
     void setSelectedStatement(CVStatement* statement);
     /// Scrolls the timeline sideways, over a second, until the statement is in its middle; not at
     /// all when the statement is in view, or nowhere.
@@ -99,12 +107,12 @@ public:
     CVCardPopoverController& cardPopoverController();
     CVStatementPopoverController& statementPopoverController();
     /// What is open; null while nothing is.
-    NSPopover* cardPopover() const { return m_cardPopover.get(); }
-    NSPopover* statementPopover() const { return m_statementPopover.get(); }
+    NSPopover* cardPopover() const;
+    NSPopover* statementPopover() const;
     /// The card whose editor is open; null while a new card is being made.
-    CVCard* editingCard() const { return m_editingCard; }
+    CVCard* editingCard() const;
     /// The card that will own the statement that is being made.
-    CVCard* cardForNewStatement() const { return m_cardForNewStatement; }
+    CVCard* cardForNewStatement() const;
 
     /// Closes the statement's editor, if it is open, and drops what was typed.
     void dismissStatementPopover();
@@ -148,6 +156,7 @@ public:
 
     void popoverWillShow(NSPopover& popover) override;
     void popoverDidShow(NSPopover& popover) override;
+    std::optional<PopoverAnchor> popoverWillReposition(NSPopover& popover) override;
     bool popoverShouldClose(NSPopover& popover) override;
     void popoverDidClose(NSPopover& popover) override;
 
@@ -165,8 +174,8 @@ public Q_SLOTS:
     /// Opens the editor for a new statement: of the card in whose row the sender, a widget, is;
     /// else of the selected card.
     void addStatement(QObject* sender);
-    /// Opens the editor of the card in whose row the sender, a widget, is; else of the selected
-    /// statement, or of the selected card.
+    /// Opens the editor of the card in whose row the sender, a widget, is; else of what is
+    /// selected.
     void getInfo(QObject* sender);
     /// Opens the editor of the selected statement; without one, of the selected card.
     void getSelectedCardInfo();
@@ -196,6 +205,7 @@ private:
     void setUpPanels();
     void setUpOrder();
     void setUpTables();
+    void setUpEditors();
     void setUpZoom();
     void setUpTotals();
     void showTotals();
@@ -207,28 +217,30 @@ private:
     void showInvitation();
     void selectionIndexDidChange();
     void restoreTimelineGeometry();
-    void changeByUndoManager(void (NSUndoManager::*change)());
+    void changeByUndoManager(void (NSUndoManager::*change)(),
+                             void (MainWindowController::*wayBack)());
     void selectStatement(CVStatement* statement);
+
+    void selectChanged(const ObjectChanges& changes);
+    void showStatement(CVStatement& statement);
 
     void showNewCardPopoverIfNeeded();
     void showNewStatementPopoverForSelectedCard();
-    void showNewStatementPopoverAtRow(int row);
     void showStatementPopoverAtPoint(const QPointF& point);
     void showSelectedStatementPopover();
-    void showStatementPopoverForStatement(CVStatement& statement, const QRect& anchor);
     void showSelectedCardPopover();
-    void showCardPopoverForCard(CVCard& card, int row, const QRect& anchor);
-    std::unique_ptr<NSPopover> newPopover(QWidget& content, const QString& name);
-    std::unique_ptr<NSPopover> newCardPopover();
-    std::unique_ptr<NSPopover> newStatementPopover();
-    /// What is typed, or which statement is selected, may be other than the open popover shows.
+    void openCardEditor(const EditorTarget& target);
+    void openStatementEditor(const EditorTarget& target);
+    void cardEditorDidClose(std::unique_ptr<OpenCardEditor> editor);
+    void statementEditorDidClose(std::unique_ptr<OpenStatementEditor> editor);
+    void closeEditorsOfGoneRecords();
+    bool cancelOperation();
+    /// Rows or dots may be somewhere else now.
+    void placeEditors();
     void selectedStatementFiguresDidChange();
-    void statementPopoverDidClose();
-    void updateStatement(CVStatement& statement, const CVStatement& source);
-    void insertStatement(const CVStatement& source);
-    void cardPopoverDidClose();
-    void updateCard(CVCard& card, const CVCard& source);
-    void insertCard(const CVCard& source);
+    void tellDropped(const EditorDraft& draft);
+    void tellGone(const EditorTarget& target);
+    void continueEditing(const EditorDraft& draft);
     void insertNewline();
 
     MainWindowHost& m_host;
@@ -244,11 +256,16 @@ private:
     std::unique_ptr<NSManagedObjectContext> m_scratchContext;
     std::unique_ptr<CVCardPopoverController> m_cardPopoverController;
     std::unique_ptr<CVStatementPopoverController> m_statementPopoverController;
-    std::unique_ptr<NSPopover> m_cardPopover;
-    std::unique_ptr<NSPopover> m_statementPopover;
-    CVCard* m_editingCard = nullptr;
-    CVCard* m_cardForNewStatement = nullptr;
-    bool m_isClosingStatementPopover = false;
+    std::unique_ptr<EditorPlaces> m_editorPlaces;
+    /// What is open; null while nothing is.
+    std::unique_ptr<OpenCardEditor> m_cardEditor;
+    std::unique_ptr<OpenStatementEditor> m_statementEditor;
+    /// From the command until the editor opens, after the event: the card that it will be for.
+    CVCard* m_cardOfComingStatement = nullptr;
+    WindowNotice* m_notice = nullptr;
+    DeleteKeyGuard* m_deleteKeyGuard = nullptr;
+    /// While a step is taken back or done again: the other one of the two.
+    void (MainWindowController::*m_wayBack)() = nullptr;
     NotificationQueue::Sender m_notifications;
     std::vector<NotificationCenter::Token> m_notificationObservers;
     std::vector<KeyValueObservation> m_observations;

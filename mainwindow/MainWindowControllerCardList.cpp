@@ -2,8 +2,12 @@
 // in them, in step.
 
 #include "foundation/UserDefaults.h"
+#include "mainwindow/DeleteKeyGuard.h"
 #include "mainwindow/MainWindowController.h"
 #include "mainwindow/MainWindowHost.h"
+#include "mainwindow/WindowNotice.h"
+#include "mainwindow/editing/OpenCardEditor.h"
+#include "mainwindow/editing/OpenStatementEditor.h"
 #include "model/CVCard.h"
 #include "model/CVStatement.h"
 #include "store/NSArrayController.h"
@@ -34,13 +38,41 @@ void MainWindowController::selectCardAndMakeVisible(CVCard& card)
     }
 }
 
+CVStatement* MainWindowController::selectedStatement() const
+{
+    return m_selectedStatement && !m_selectedStatement->isDeleted() ? m_selectedStatement : nullptr;
+}
+
 void MainWindowController::setSelectedStatement(CVStatement* statement)
 {
-    const KeyValueChange change(*this, "selectedStatement");
-    auto* const previous = std::exchange(m_selectedStatement, statement);
-    if (m_ui) {
-        m_ui->timelineTableView->selectedStatementDidChange(previous, statement);
+    const bool isAnother = statement != selectedStatement();
+    {
+        const KeyValueChange change(*this, "selectedStatement");
+        auto* const previous = std::exchange(m_selectedStatement, statement);
+        if (m_ui) {
+            m_ui->timelineTableView->selectedStatementDidChange(previous, statement);
+        }
     }
+    if (isAnother && statement && m_statementEditor) {
+        showSelectedStatementPopover();
+    }
+}
+
+void MainWindowController::selectedStatementFiguresDidChange()
+{
+    if (m_statementEditor) {
+        redrawTimeline();
+        placeEditors();
+    }
+}
+
+void MainWindowController::showStatement(CVStatement& statement)
+{
+    if (auto* const card = statement.card()) {
+        selectCardAndMakeVisible(*card);
+    }
+    setSelectedStatement(&statement);
+    makeStatementVisible(statement);
 }
 
 void MainWindowController::makeStatementVisible(const CVStatement& statement)
@@ -57,6 +89,7 @@ void MainWindowController::makeStatementVisible(const CVStatement& statement)
 void MainWindowController::cardTableViewDidSelectCard(CVCardTableView& /*table*/, CVCard& /*card*/,
                                                       int index)
 {
+    m_deleteKeyGuard->disarm();
     m_ui->timelineTableView->selectRow(index);
 }
 
@@ -70,6 +103,7 @@ void MainWindowController::timelineTableViewDidSelectStatement(CVTimelineTableVi
                                                                CVStatement* statement,
                                                                const QPointF& point, int clickCount)
 {
+    m_deleteKeyGuard->disarm();
     setSelectedStatement(statement);
     table.update();
     if (!statement) {
@@ -79,9 +113,17 @@ void MainWindowController::timelineTableViewDidSelectStatement(CVTimelineTableVi
     }
 }
 
+void MainWindowController::showStatementPopoverAtPoint(const QPointF& /*point*/)
+{
+    if (selectedStatement()) {
+        m_notice->withdraw();
+        showSelectedStatementPopover();
+    }
+}
+
 void MainWindowController::timelineTableViewDidCancelOperation(CVTimelineTableView& /*table*/)
 {
-    dismissStatementPopover();
+    cancelOperation();
 }
 
 bool MainWindowController::timelineCellSelectStatement(const CVCardTimelineCell& /*cell*/,

@@ -1,8 +1,12 @@
 // What the main window's controller does at the person's command, when commands make sense, and the
 // line of totals.
 
+#include "mainwindow/DeleteKeyGuard.h"
 #include "mainwindow/MainWindowController.h"
 #include "mainwindow/MainWindowHost.h"
+#include "mainwindow/WindowNotice.h"
+#include "mainwindow/editing/OpenCardEditor.h"
+#include "mainwindow/editing/OpenStatementEditor.h"
 #include "model/CVCard.h"
 #include "model/CVManagedObjectContext.h"
 #include "model/CVStatement.h"
@@ -14,6 +18,9 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QScopedValueRollback>
+
+#include <algorithm>
 
 QString MainWindowController::formattedTotals() const
 {
@@ -32,24 +39,64 @@ NSUndoManager* MainWindowController::windowWillReturnUndoManager() const
 
 void MainWindowController::undo()
 {
-    changeByUndoManager(&NSUndoManager::undo);
+    changeByUndoManager(&NSUndoManager::undo, &MainWindowController::redo);
 }
 
 void MainWindowController::redo()
 {
-    changeByUndoManager(&NSUndoManager::redo);
+    changeByUndoManager(&NSUndoManager::redo, &MainWindowController::undo);
 }
 
-void MainWindowController::changeByUndoManager(void (NSUndoManager::*change)())
+void MainWindowController::changeByUndoManager(void (NSUndoManager::*change)(),
+                                               void (MainWindowController::*wayBack)())
 {
     auto* const undoManager = windowWillReturnUndoManager();
     if (!undoManager) {
         return;
     }
+    m_notice->withdraw();
     const KeyValueChange totals(*this, "formattedTotals");
-    (undoManager->*change)();
+    const bool isEditing = m_cardEditor || m_statementEditor;
+    ObjectChanges changes;
+    {
+        const QScopedValueRollback changing(m_wayBack, wayBack);
+        QObject listener;
+        connect(m_context, &NSManagedObjectContext::objectsDidChange, &listener,
+                [&changes](const ObjectChanges& announced) { changes = announced; });
+        (undoManager->*change)();
+    }
     CVManagedObjectContext::saveAndLogError(*m_context);
     redrawTimeline();
+    if (!isEditing) {
+        selectChanged(changes);
+    }
+    if (!changes.deleted.empty()) {
+        m_deleteKeyGuard->arm();
+    }
+}
+
+/// What undo brought back or changed is what the next key is for.
+void MainWindowController::selectChanged(const ObjectChanges& changes)
+{
+    CVCard* card = nullptr;
+    CVStatement* statement = nullptr;
+    for (const auto& records : {changes.updated, changes.inserted}) {
+        for (auto* const record : records) {
+            if (auto* const changedCard = dynamic_cast<CVCard*>(record)) {
+                card = changedCard;
+            } else if (auto* const changedStatement = dynamic_cast<CVStatement*>(record)) {
+                statement = changedStatement;
+            }
+        }
+    }
+    const bool isCardBack =
+        card && std::ranges::find(changes.inserted, card) != changes.inserted.end();
+    if (statement && !isCardBack) {
+        showStatement(*statement);
+    } else if (card) {
+        setSelectedStatement(nullptr);
+        selectCardAndMakeVisible(*card);
+    }
 }
 
 bool MainWindowController::windowShouldClose()
@@ -75,7 +122,7 @@ bool MainWindowController::validateUserInterfaceItem(QAction& item)
         return canAddStatement();
     }
     if (action == "delete_") {
-        item.setText(m_selectedStatement ? tr("&Delete Statement") : tr("&Delete Card"));
+        item.setText(selectedStatement() ? tr("&Delete Statement") : tr("&Delete Card"));
     } else if (action == "applyScaleMultiplier") {
         item.setChecked(item.property("tag").toDouble() == m_scale);
     } else if (action == "toggleCardList") {
@@ -106,8 +153,14 @@ bool MainWindowController::keyDown(const QKeyEvent& event)
         insertNewline();
         return true;
     case Qt::Key_Delete:
-        delete_();
+        if (m_deleteKeyGuard->isArmed()) {
+            QApplication::beep();
+        } else {
+            delete_();
+        }
         return true;
+    case Qt::Key_Escape:
+        return cancelOperation();
     default:
         return false;
     }
@@ -115,6 +168,7 @@ bool MainWindowController::keyDown(const QKeyEvent& event)
 
 void MainWindowController::insertNewline()
 {
+    // Where the statement went away that was selected, its card is what is meant.
     if (m_selectedStatement) {
         getSelectedCardInfo();
     } else {
@@ -125,8 +179,9 @@ void MainWindowController::insertNewline()
 void MainWindowController::selectNextStatement()
 {
     const auto* const card = selectedCard();
-    if (m_selectedStatement && m_selectedStatement->card() == card && card) {
-        if (auto* const next = card->nextStatement(*m_selectedStatement)) {
+    auto* const selected = selectedStatement();
+    if (selected && selected->card() == card) {
+        if (auto* const next = card->nextStatement(*selected)) {
             selectStatement(next);
         } else {
             QApplication::beep();
@@ -139,8 +194,9 @@ void MainWindowController::selectNextStatement()
 void MainWindowController::selectPreviousStatement()
 {
     const auto* const card = selectedCard();
-    if (m_selectedStatement && m_selectedStatement->card() == card && card) {
-        if (auto* const previous = card->previousStatement(*m_selectedStatement)) {
+    auto* const selected = selectedStatement();
+    if (selected && selected->card() == card) {
+        if (auto* const previous = card->previousStatement(*selected)) {
             selectStatement(previous);
         } else {
             QApplication::beep();
@@ -152,7 +208,10 @@ void MainWindowController::selectPreviousStatement()
 
 void MainWindowController::selectStatement(CVStatement* statement)
 {
-    const auto* const before = m_selectedStatement;
+    const auto* const before = selectedStatement();
+    if (const auto row = selectedRow()) {
+        m_ui->cardsTableView->scrollRowToVisible(*row);
+    }
     setSelectedStatement(statement);
     if (statement != before) {
         redrawTimeline();

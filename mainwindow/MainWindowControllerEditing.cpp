@@ -1,23 +1,43 @@
-// How the main window's controller adds, edits and deletes cards and statements: the popovers with
-// their editors, and what becomes of what was typed in them.
+// How the main window's controller adds, edits and deletes cards and statements: it opens the
+// editors, and shows what became of them. What each editor does meanwhile stands in editing/.
 
 #include "editors/CVCardPopoverController.h"
 #include "editors/CVStatementPopoverController.h"
-#include "editors/OADatePickerTextField.h"
-#include "editors/VRClone.h"
-#include "foundation/Clock.h"
 #include "foundation/Log.h"
+#include "mainwindow/DeleteKeyGuard.h"
 #include "mainwindow/MainWindowController.h"
+#include "mainwindow/NoticeText.h"
+#include "mainwindow/WindowNotice.h"
+#include "mainwindow/editing/EditorPlaces.h"
+#include "mainwindow/editing/OpenCardEditor.h"
+#include "mainwindow/editing/OpenStatementEditor.h"
 #include "model/CVCard.h"
 #include "model/CVManagedObjectContext.h"
 #include "model/CVStatement.h"
 #include "store/NSArrayController.h"
 #include "store/NSManagedObjectContext.h"
-#include "widgets/NSPopover.h"
 
 #include "ui_MainWindow.h"
 
-#include <QScopedValueRollback>
+#include <QAbstractButton>
+
+#include <utility>
+
+namespace {
+
+using Kind = EditorTarget::Kind;
+
+bool isPopoverOf(const std::unique_ptr<OpenCardEditor>& editor, const NSPopover& popover)
+{
+    return editor && &editor->popover() == &popover;
+}
+
+bool isPopoverOf(const std::unique_ptr<OpenStatementEditor>& editor, const NSPopover& popover)
+{
+    return editor && &editor->popover() == &popover;
+}
+
+} // namespace
 
 NSManagedObjectContext& MainWindowController::scratchContext()
 {
@@ -44,25 +64,50 @@ CVStatementPopoverController& MainWindowController::statementPopoverController()
     return *m_statementPopoverController;
 }
 
-std::unique_ptr<NSPopover> MainWindowController::newPopover(QWidget& content, const QString& name)
+NSPopover* MainWindowController::cardPopover() const
 {
-    auto popover = std::make_unique<NSPopover>(content);
-    popover->setAnimates(true);
-    popover->setDelegate(this);
-    popover->setAccessibleName(name);
-    return popover;
+    return m_cardEditor ? &m_cardEditor->popover() : nullptr;
 }
 
-std::unique_ptr<NSPopover> MainWindowController::newCardPopover()
+NSPopover* MainWindowController::statementPopover() const
 {
-    auto popover = newPopover(cardPopoverController().view(), tr("Card"));
-    popover->setBehavior(NSPopover::Behavior::Semitransient);
-    return popover;
+    return m_statementEditor ? &m_statementEditor->popover() : nullptr;
 }
 
-std::unique_ptr<NSPopover> MainWindowController::newStatementPopover()
+CVCard* MainWindowController::editingCard() const
 {
-    return newPopover(statementPopoverController().view(), tr("Statement"));
+    return m_cardEditor ? m_cardEditor->editingCard() : nullptr;
+}
+
+CVCard* MainWindowController::cardForNewStatement() const
+{
+    return m_statementEditor ? m_statementEditor->cardForNewStatement() : m_cardOfComingStatement;
+}
+
+void MainWindowController::openCardEditor(const EditorTarget& target)
+{
+    if (m_cardEditor) {
+        tellDropped(m_cardEditor->retarget(target));
+    } else if (m_editorPlaces->placeOf(target)) {
+        m_cardEditor = std::make_unique<OpenCardEditor>(cardPopoverController(), scratchContext(),
+                                                        *m_editorPlaces, *this, target);
+        m_cardEditor->open();
+    }
+    if (m_cardEditor) {
+        const auto* const command = target.isNew() ? m_ui->addCard : m_ui->getSelectedCardInfo;
+        m_cardEditor->popover().setOpener(m_ui->buttonBar->buttonForAction(command));
+    }
+}
+
+void MainWindowController::openStatementEditor(const EditorTarget& target)
+{
+    if (m_statementEditor) {
+        tellDropped(m_statementEditor->retarget(target));
+    } else if (m_editorPlaces->placeOf(target)) {
+        m_statementEditor = std::make_unique<OpenStatementEditor>(
+            statementPopoverController(), scratchContext(), *m_editorPlaces, *this, target);
+        m_statementEditor->open();
+    }
 }
 
 void MainWindowController::addCard()
@@ -70,19 +115,9 @@ void MainWindowController::addCard()
     if (!m_context) {
         return;
     }
-    auto& editor = cardPopoverController();
-    editor.setContext(&scratchContext());
-    // The popover may be open for another card: what it shows from now on is a new one.
-    editor.setOriginalCard(nullptr);
-    m_editingCard = nullptr;
-    editor.createNewCard();
-    if (!m_cardPopover) {
-        m_ui->splitView->setPaneCollapsed(0, false);
-        m_cardPopover = newCardPopover();
-        m_cardPopover->showRelativeToRect(m_ui->cardsTitleBox->geometry(), *m_ui->cardsPane,
-                                          NSRectEdge::MaxY);
-        editor.setPopover(m_cardPopover.get());
-    }
+    m_notice->withdraw();
+    m_ui->splitView->setPaneCollapsed(0, false);
+    openCardEditor({Kind::NewCard, nullptr});
 }
 
 void MainWindowController::showNewCardPopoverIfNeeded()
@@ -97,114 +132,69 @@ void MainWindowController::addStatement(QObject* sender)
     if (!m_context) {
         return;
     }
-    m_ui->splitView->setPaneCollapsed(0, false);
     const auto* const view = qobject_cast<QWidget*>(sender);
     auto row = view ? m_ui->cardsTableView->rowForView(view) : selectedRow();
     if (!row) {
         row = selectedRow();
     }
     auto* const card = row ? m_ui->cardsTableView->cardAtRow(*row) : nullptr;
-    if (!card) {
+    const EditorTarget target{Kind::NewStatement, card};
+    if (!card || (m_statementEditor && m_statementEditor->target() == target)) {
         return;
     }
+    m_notice->withdraw();
+    dismissStatementPopover();
+    m_ui->splitView->setPaneCollapsed(0, false);
     selectCardAndMakeVisible(*card);
-    m_cardForNewStatement = card;
+    m_cardOfComingStatement = card;
     m_notifications.enqueue(newStatementNotification);
 }
 
 void MainWindowController::showNewStatementPopoverForSelectedCard()
 {
-    if (const auto row = selectedRow()) {
-        showNewStatementPopoverAtRow(*row);
-    }
-}
-
-void MainWindowController::showNewStatementPopoverAtRow(int row)
-{
-    auto& editor = statementPopoverController();
-    editor.setOriginalStatement(nullptr);
-    editor.setIsDirty(false);
-    if (m_statementPopover || !m_cardForNewStatement) {
-        return;
-    }
-    editor.setContext(&scratchContext());
-    editor.setCard(m_cardForNewStatement);
-    editor.createNewStatement();
-    m_statementPopover = newStatementPopover();
-    m_statementPopover->showRelativeToRect(
-        m_ui->cardsTableView->newStatementPopoverAnchorRectForRow(row), *m_ui->cardsTableView,
-        NSRectEdge::MaxX);
-    editor.setPopover(m_statementPopover.get());
-}
-
-void MainWindowController::showStatementPopoverAtPoint(const QPointF& /*point*/)
-{
-    if (m_selectedStatement) {
-        showSelectedStatementPopover();
+    // Another editor may have been opened since.
+    auto* const card = std::exchange(m_cardOfComingStatement, nullptr);
+    if (card && !m_statementEditor) {
+        openStatementEditor({Kind::NewStatement, card});
     }
 }
 
 void MainWindowController::showSelectedStatementPopover()
 {
-    const auto rect = m_ui->timelineTableView->rectForStatement(*m_selectedStatement);
-    if (rect) {
-        showStatementPopoverForStatement(*m_selectedStatement, rect->toAlignedRect());
-    }
-}
-
-void MainWindowController::showStatementPopoverForStatement(CVStatement& statement,
-                                                            const QRect& anchor)
-{
-    auto& scratch = scratchContext();
-    auto& clone = static_cast<CVStatement&>(VRClone::vrShallowCloneInContext(statement, scratch));
-    auto& editor = statementPopoverController();
-    editor.setContext(&scratch);
-    editor.setCard(statement.card());
-    editor.setStatement(&clone);
-    editor.setOriginalStatement(&statement);
-    if (m_statementPopover) {
-        m_statementPopover->setPositioningRect(anchor);
-        return;
-    }
-    m_statementPopover = newStatementPopover();
-    m_statementPopover->showRelativeToRect(anchor, *m_ui->timelineTableView, NSRectEdge::MaxY);
-    editor.setPopover(m_statementPopover.get());
+    openStatementEditor({Kind::Statement, selectedStatement()});
 }
 
 void MainWindowController::dismissStatementPopover()
 {
-    if (m_statementPopover) {
-        statementPopoverController().setIsDirty(false);
-        m_statementPopover->close();
+    if (m_statementEditor) {
+        m_statementEditor->drop();
     }
+}
+
+bool MainWindowController::cancelOperation()
+{
+    if (m_statementEditor) {
+        m_statementEditor->drop();
+    } else if (m_cardEditor) {
+        m_cardEditor->drop();
+    } else {
+        return false;
+    }
+    return true;
 }
 
 void MainWindowController::getInfo(QObject* sender)
 {
-    if (!m_context) {
-        return;
-    }
     const auto* const view = qobject_cast<QWidget*>(sender);
-    auto row = view ? m_ui->cardsTableView->rowForView(view) : std::nullopt;
-    if (!row && m_selectedStatement) {
-        showSelectedStatementPopover();
-        return;
-    }
-    if (!row) {
-        row = selectedRow();
-    }
+    const auto row = view ? m_ui->cardsTableView->rowForView(view) : std::nullopt;
     auto* const card = row ? m_ui->cardsTableView->cardAtRow(*row) : nullptr;
     if (!card) {
+        getSelectedCardInfo();
         return;
     }
+    m_notice->withdraw();
     dismissStatementPopover();
-    const auto anchor = m_ui->cardsTableView->cardInfoPopoverAnchorRectForRow(*row);
-    if (m_cardPopover) {
-        cardPopoverController().setCard(card);
-        m_cardPopover->setPositioningRect(anchor);
-    } else {
-        showCardPopoverForCard(*card, *row, anchor);
-    }
+    openCardEditor({Kind::Card, card});
 }
 
 void MainWindowController::getSelectedCardInfo()
@@ -212,7 +202,8 @@ void MainWindowController::getSelectedCardInfo()
     if (!m_context) {
         return;
     }
-    if (m_selectedStatement) {
+    m_notice->withdraw();
+    if (selectedStatement()) {
         showSelectedStatementPopover();
     } else {
         showSelectedCardPopover();
@@ -226,30 +217,9 @@ void MainWindowController::showSelectedCardPopover()
         Log::line(u"Editing card and no selection");
         return;
     }
-    const int row = selectedRow().value();
     m_ui->splitView->setPaneCollapsed(0, false);
-    m_ui->cardsTableView->scrollRowToVisible(row);
-    showCardPopoverForCard(*card, row, m_ui->cardsTableView->cardInfoPopoverAnchorRectForRow(row));
-}
-
-void MainWindowController::showCardPopoverForCard(CVCard& card, int row, const QRect& anchor)
-{
-    auto& scratch = scratchContext();
-    auto& clone = static_cast<CVCard&>(VRClone::vrShallowCloneInContext(card, scratch));
-    auto& editor = cardPopoverController();
-    editor.setContext(&scratch);
-    editor.setOriginalCard(&card);
-    editor.setCard(&clone);
-    if (m_cardPopover) {
-        m_cardPopover->setPositioningRect(anchor);
-    } else {
-        m_cardPopover = newCardPopover();
-        m_cardPopover->showRelativeToRect(
-            m_ui->cardsTableView->cardInfoPopoverAnchorRectForRow(row), *m_ui->cardsTableView,
-            NSRectEdge::MaxX);
-    }
-    editor.setPopover(m_cardPopover.get());
-    m_editingCard = &card;
+    m_ui->cardsTableView->scrollRowToVisible(selectedRow().value());
+    openCardEditor({Kind::Card, card});
 }
 
 void MainWindowController::delete_()
@@ -258,183 +228,175 @@ void MainWindowController::delete_()
         return;
     }
     const KeyValueChange totals(*this, "formattedTotals");
-    if (m_selectedStatement) {
+    QString text;
+    if (auto* const statement = selectedStatement()) {
+        text = NoticeText::deleted(*statement);
         dismissStatementPopover();
-        if (!m_selectedStatement->isDeleted()) {
-            m_context->deleteObject(*m_selectedStatement);
-        }
+        m_context->deleteObject(*statement);
         m_context->undoManager().setActionName(tr("Delete Statement"));
     } else {
+        if (const auto* const card = selectedCard()) {
+            text = NoticeText::deleted(*card);
+        }
         m_cardsController->remove();
         m_context->undoManager().setActionName(tr("Delete Card"));
     }
     CVManagedObjectContext::saveAndLogError(*m_context);
     tickleCanScale();
     redrawTimeline();
+    if (text.isEmpty()) {
+        m_notice->withdraw();
+    } else {
+        m_notice->tell(text, tr("Undo"), [this] { undo(); });
+        m_deleteKeyGuard->arm();
+    }
 }
 
-void MainWindowController::selectedStatementFiguresDidChange()
+void MainWindowController::placeEditors()
 {
-    if (!m_statementPopover || m_isClosingStatementPopover || !m_selectedStatement) {
-        return;
+    if (m_cardEditor) {
+        m_cardEditor->popover().reposition();
     }
-    if (m_selectedStatement != statementPopoverController().originalStatement()) {
-        showSelectedStatementPopover();
-        return;
+    if (m_statementEditor) {
+        m_statementEditor->popover().reposition();
     }
-    redrawTimeline();
-    if (m_selectedStatement->card()) {
-        if (const auto rect = m_ui->timelineTableView->rectForStatement(*m_selectedStatement)) {
-            m_statementPopover->setPositioningRect(rect->toAlignedRect());
+}
+
+/// What is written to a record that is gone would be lost without a word.
+void MainWindowController::closeEditorsOfGoneRecords()
+{
+    for (OpenEditor* const editor :
+         std::initializer_list<OpenEditor*>{m_statementEditor.get(), m_cardEditor.get()}) {
+        if (editor && editor->target().isGone()) {
+            const auto target = editor->target();
+            editor->drop();
+            tellGone(target);
         }
     }
+    if (m_cardOfComingStatement && m_cardOfComingStatement->isDeleted()) {
+        m_cardOfComingStatement = nullptr;
+    }
+}
+
+void MainWindowController::tellGone(const EditorTarget& target)
+{
+    if (!m_wayBack) {
+        m_notice->tell(NoticeText::gone(target));
+        return;
+    }
+    const bool isUndo = m_wayBack == &MainWindowController::undo;
+    m_notice->tell(NoticeText::gone(target), isUndo ? tr("Undo") : tr("Redo"),
+                   [this, wayBack = m_wayBack] { (this->*wayBack)(); });
 }
 
 void MainWindowController::popoverWillShow(NSPopover& popover)
 {
-    if (&popover == m_statementPopover.get()) {
-        statementPopoverController().dateField().setMaxDate(Clock::now());
+    if (isPopoverOf(m_statementEditor, popover)) {
+        m_statementEditor->prepareForm();
     }
 }
 
 void MainWindowController::popoverDidShow(NSPopover& popover)
 {
-    if (&popover == m_statementPopover.get()) {
-        statementPopoverController().dateField().setFocus();
+    if (isPopoverOf(m_statementEditor, popover)) {
+        m_statementEditor->beginTyping();
     }
+}
+
+std::optional<PopoverAnchor> MainWindowController::popoverWillReposition(NSPopover& popover)
+{
+    if (isPopoverOf(m_statementEditor, popover)) {
+        return m_statementEditor->place();
+    }
+    return isPopoverOf(m_cardEditor, popover) ? m_cardEditor->place() : std::nullopt;
 }
 
 bool MainWindowController::popoverShouldClose(NSPopover& popover)
 {
-    if (&popover == m_cardPopover.get()) {
-        auto* const card = cardPopoverController().card();
-        if (m_editingCard && m_editingCard != card) {
-            m_editingCard = card;
-            return false;
-        }
-    } else if (&popover == m_statementPopover.get()) {
-        const auto* const statement = statementPopoverController().statement();
-        auto* const card = statement ? statement->card() : nullptr;
-        if (m_cardForNewStatement && m_cardForNewStatement != card) {
-            m_cardForNewStatement = card;
-            return false;
-        }
+    if (isPopoverOf(m_statementEditor, popover)) {
+        return m_statementEditor->shouldClose();
     }
-    return true;
+    return !isPopoverOf(m_cardEditor, popover) || m_cardEditor->shouldClose();
 }
 
 void MainWindowController::popoverDidClose(NSPopover& popover)
 {
-    if (&popover == m_statementPopover.get()) {
-        statementPopoverDidClose();
-    } else if (&popover == m_cardPopover.get()) {
-        cardPopoverDidClose();
+    // From here on it counts as closed: what is written and selected below opens nothing and
+    // retargets nothing.
+    if (isPopoverOf(m_statementEditor, popover)) {
+        statementEditorDidClose(std::exchange(m_statementEditor, nullptr));
+    } else if (isPopoverOf(m_cardEditor, popover)) {
+        cardEditorDidClose(std::exchange(m_cardEditor, nullptr));
     }
 }
 
-void MainWindowController::statementPopoverDidClose()
+void MainWindowController::statementEditorDidClose(std::unique_ptr<OpenStatementEditor> editor)
 {
-    const QScopedValueRollback closing(m_isClosingStatementPopover, true);
-    auto& editor = statementPopoverController();
-    if (auto* const statement = editor.statement()) {
-        const KeyValueChange totals(*this, "formattedTotals");
-        if (auto* const original = editor.originalStatement()) {
-            if (editor.isDirty() && !original->isDeleted()) {
-                updateStatement(*original, *statement);
-            }
-            scratchContext().deleteObject(*statement);
-            scratchContext().processPendingChanges();
-        } else {
-            if (editor.isDirty() && m_cardForNewStatement && !m_cardForNewStatement->isDeleted()) {
-                insertStatement(*statement);
-            }
-            m_cardForNewStatement = nullptr;
-        }
-        redrawTimeline();
-        tickleCanScale();
+    const KeyValueChange totals(*this, "formattedTotals");
+    const auto outcome = editor->conclude(*m_context);
+    if (outcome.written) {
+        m_notice->withdraw();
     }
-    editor.setOriginalStatement(nullptr);
-    editor.setStatement(nullptr);
-    editor.setPopover(nullptr);
-    m_statementPopover.reset();
-}
-
-void MainWindowController::updateStatement(CVStatement& statement, const CVStatement& source)
-{
-    auto& undoManager = m_context->undoManager();
-    {
-        const UndoGroup group(undoManager);
-        VRClone::vrCopyAttributesFromObject(statement, source, scratchContext());
+    if (outcome.written && outcome.target.isNew()) {
+        auto& statement = static_cast<CVStatement&>(*outcome.written);
+        makeStatementVisible(statement);
+        setSelectedStatement(&statement);
+        selectCardAndMakeVisible(*statement.card());
     }
-    undoManager.setActionName(tr("Edit Statement"));
-    CVManagedObjectContext::saveAndLogError(*m_context);
-}
-
-void MainWindowController::insertStatement(const CVStatement& source)
-{
-    auto& undoManager = m_context->undoManager();
-    CVStatement* statement = nullptr;
-    {
-        const UndoGroup group(undoManager);
-        statement =
-            static_cast<CVStatement*>(&m_context->insertNewObjectForEntityForName("Statement"));
-        VRClone::vrCopyAttributesFromObject(*statement, source, scratchContext());
-        statement->setCard(m_cardForNewStatement);
-    }
-    undoManager.setActionName(tr("Add Statement"));
-    CVManagedObjectContext::saveAndLogError(*m_context);
-    makeStatementVisible(*statement);
-    setSelectedStatement(statement);
-    selectCardAndMakeVisible(*m_cardForNewStatement);
-}
-
-void MainWindowController::cardPopoverDidClose()
-{
-    auto& editor = cardPopoverController();
-    if (auto* const card = editor.card()) {
-        // A card of the main context was edited in place.
-        const bool isScratch = &card->managedObjectContext() == m_scratchContext.get();
-        if (auto* const original = editor.originalCard()) {
-            if (editor.isDirty() && isScratch && !original->isDeleted()) {
-                updateCard(*original, *card);
-            }
-            m_editingCard = nullptr;
-            editor.setOriginalCard(nullptr);
-        } else if (editor.isDirty() && isScratch) {
-            insertCard(*card);
-        }
-        if (isScratch) {
-            scratchContext().deleteObject(*card);
-            scratchContext().processPendingChanges();
-        }
-    }
-    editor.setPopover(nullptr);
+    tellDropped({outcome.target, outcome.dropped});
     redrawTimeline();
-    editor.setCard(nullptr);
-    m_cardPopover.reset();
+    tickleCanScale();
 }
 
-void MainWindowController::updateCard(CVCard& card, const CVCard& source)
+void MainWindowController::cardEditorDidClose(std::unique_ptr<OpenCardEditor> editor)
 {
-    auto& undoManager = m_context->undoManager();
-    {
-        const UndoGroup group(undoManager);
-        VRClone::vrCopyAttributesFromObject(card, source, scratchContext());
+    const auto outcome = editor->conclude(*m_context);
+    if (outcome.written) {
+        auto& card = static_cast<CVCard&>(*outcome.written);
+        if (outcome.target.isNew()) {
+            selectCardAndMakeVisible(card);
+        }
+        if (outcome.isUnasked) {
+            m_notice->tell(NoticeText::written(card, outcome.target.isNew()), tr("Undo"),
+                           [this] { undo(); });
+        } else {
+            m_notice->withdraw();
+        }
     }
-    undoManager.setActionName(tr("Edit Card"));
-    m_context->processPendingChanges();
+    tellDropped({outcome.target, outcome.dropped});
+    redrawTimeline();
 }
 
-void MainWindowController::insertCard(const CVCard& source)
+void MainWindowController::tellDropped(const EditorDraft& draft)
 {
-    auto& undoManager = m_context->undoManager();
-    CVCard* card = nullptr;
-    {
-        const UndoGroup group(undoManager);
-        card = static_cast<CVCard*>(&m_context->insertNewObjectForEntityForName("Card"));
-        VRClone::vrCopyAttributesFromObject(*card, source, scratchContext());
+    if (!draft.texts.empty() && !draft.target.isGone()) {
+        m_notice->tell(NoticeText::dropped(draft.target), tr("Continue"),
+                       [this, draft] { continueEditing(draft); });
     }
-    undoManager.setActionName(tr("Add Card"));
-    m_context->processPendingChanges();
-    selectCardAndMakeVisible(*card);
+}
+
+void MainWindowController::continueEditing(const EditorDraft& draft)
+{
+    if (draft.target.isGone()) {
+        return;
+    }
+    m_ui->splitView->setPaneCollapsed(0, false);
+    switch (draft.target.kind) {
+    case Kind::NewCard:
+        break;
+    case Kind::Card:
+    case Kind::NewStatement:
+        selectCardAndMakeVisible(static_cast<CVCard&>(*draft.target.record));
+        break;
+    case Kind::Statement:
+        showStatement(static_cast<CVStatement&>(*draft.target.record));
+        break;
+    }
+    if (draft.target.isStatement()) {
+        openStatementEditor(draft.target);
+        statementPopoverController().restoreTypedTexts(draft.texts);
+    } else {
+        openCardEditor(draft.target);
+        cardPopoverController().restoreTypedTexts(draft.texts);
+    }
 }

@@ -5,12 +5,12 @@
 #include <QObject>
 #include <QPointer>
 #include <QString>
+#include <QWidget>
 
 class NSPopoverDelegate;
 class PopoverPresentation;
 struct PopoverPlacement;
 class QMouseEvent;
-class QWidget;
 
 /// A panel that shows its content beside a rectangle of a view, with an arrow that points there.
 ///

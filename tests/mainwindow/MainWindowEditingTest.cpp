@@ -9,9 +9,14 @@
 #include "tests/support/Utc.h"
 #include "tests/support/WindowHost.h"
 #include "timeline/CVTimelineTableView.h"
+#include "widgets/FormButton.h"
 #include "widgets/NSPopover.h"
+#include "widgets/NoticeBar.h"
+#include "widgets/PopoverAnchor.h"
 
 #include <QAbstractButton>
+#include <QAction>
+#include <QLineEdit>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -59,6 +64,40 @@ protected:
     Table& table(const char* name)
     {
         return *controller.window().findChild<Table*>(QString::fromLatin1(name));
+    }
+
+    CVCardTableView& list() { return table<CVCardTableView>("cardsTableView"); }
+    CVTimelineTableView& timeline() { return table<CVTimelineTableView>("timelineTableView"); }
+    QWidget* rowView(int row) { return list().rowView(row); }
+    void pressAddIn(int row) { list().rowView(row)->cellView().addStatementButton().click(); }
+    void clickDot(const CVStatement& statement)
+    {
+        QTest::mouseClick(&timeline(), Qt::LeftButton, {},
+                          timeline().rectForStatement(statement).value().center().toPoint());
+    }
+    void type(const char* field, const char* text)
+    {
+        auto* const popover = controller.statementPopover();
+        auto& view = popover ? statementEditor().view() : cardEditor().view();
+        view.findChild<QLineEdit*>(QLatin1String(field))->setText(QLatin1String(text));
+    }
+    QString typed(const char* field)
+    {
+        return statementEditor().view().findChild<QLineEdit*>(QLatin1String(field))->text();
+    }
+    void press(Qt::Key key, QWidget* receiver = nullptr)
+    {
+        QTest::keyClick(receiver ? receiver : &controller.window(), key);
+    }
+    NoticeBar& notice() { return table<NoticeBar>("noticeBar"); }
+    QAbstractButton& noticeButton() { return *notice().findChild<FormButton*>(); }
+    /// Whether the open popover points at the record that it is for.
+    bool standsAtItsRecord()
+    {
+        auto* const popover = controller.statementPopover() ? controller.statementPopover()
+                                                            : controller.cardPopover();
+        const auto place = popover ? controller.popoverWillReposition(*popover) : std::nullopt;
+        return place && popover->positioningRect() == place->rect;
     }
 
     CardStore store;
@@ -114,8 +153,7 @@ TEST_F(MainWindowEditingTest, aStatementIsAddedFromItsRowAndSavedAtOnce)
     EXPECT_EQ(undoManager().undoActionName(), QStringLiteral("Add Statement"));
     controller.undo();
     EXPECT_EQ(statementsInFile(), 3);
-    controller.delete_();
-    EXPECT_EQ(statementsInFile(), 3) << "the selected statement is gone already";
+    press(Qt::Key_Delete);
     EXPECT_EQ(controller.cardsController().rowCount(), 2);
 }
 
@@ -148,18 +186,15 @@ TEST_F(MainWindowEditingTest, theStatementEditorFollowsTheSelectionAndCommitsOnl
     statementEditor().setIsDirty(true);
     store.context().deleteObject(*first);
     store.save();
-    controller.statementPopover()->close();
-    EXPECT_EQ(statementsInFile(), 0) << "nothing is committed to what is gone";
+    EXPECT_FALSE(controller.statementPopover()) << "what it was for is gone";
+    EXPECT_EQ(statementsInFile(), 0);
 }
 
 TEST_F(MainWindowEditingTest, theCardEditorRefusesItsFirstCloseAndLosesNothing)
 {
     fill();
     open();
-    auto& list = table<CVCardTableView>("cardsTableView");
-    controller.setSelectedStatement(first->lastStatement());
-    controller.getInfo(list.rowView(1));
-    controller.setSelectedStatement(nullptr);
+    controller.getInfo(rowView(1));
     ASSERT_TRUE(controller.cardPopover());
     EXPECT_EQ(controller.editingCard(), second);
     cardEditor().card()->setName(QStringLiteral("Zenith"));
@@ -170,7 +205,7 @@ TEST_F(MainWindowEditingTest, theCardEditorRefusesItsFirstCloseAndLosesNothing)
     EXPECT_EQ(undoManager().undoActionName(), QStringLiteral("Edit Card"));
     EXPECT_EQ(controller.editingCard(), nullptr);
 
-    controller.getInfo(list.rowView(0));
+    controller.getInfo(rowView(0));
     cardEditor().card()->setName(QStringLiteral("Gone"));
     controller.addCard();
     cardEditor().addOrUpdateCard();
@@ -179,4 +214,188 @@ TEST_F(MainWindowEditingTest, theCardEditorRefusesItsFirstCloseAndLosesNothing)
     controller.delete_();
     EXPECT_EQ(controller.cardsController().rowCount(), 2);
     EXPECT_EQ(undoManager().undoActionName(), QStringLiteral("Delete Card"));
+}
+
+TEST_F(MainWindowEditingTest, onlyAnotherSelectedStatementRetargetsAnEditor)
+{
+    fill();
+    open();
+    const auto statements = first->sortedStatements();
+    clickDot(*statements[0]);
+    controller.getSelectedCardInfo();
+    type("balanceField", "77");
+    statements[0]->setLimit(NSDecimalNumber::fromText("2000"));
+    store.context().processPendingChanges();
+    controller.undo();
+    controller.redo();
+    controller.setSelectedStatement(statements[0]);
+    controller.getSelectedCardInfo();
+    EXPECT_EQ(typed("balanceField"), QStringLiteral("77"));
+    EXPECT_TRUE(standsAtItsRecord());
+    EXPECT_FALSE(notice().isShowingNotice());
+
+    clickDot(*statements[2]);
+    EXPECT_EQ(statementEditor().originalStatement(), statements[2]);
+    EXPECT_TRUE(standsAtItsRecord());
+    ASSERT_EQ(noticeButton().text(), QStringLiteral("Continue"));
+    noticeButton().click();
+    EXPECT_EQ(statementEditor().originalStatement(), statements[0]);
+    EXPECT_EQ(controller.selectedStatement(), statements[0]);
+    EXPECT_EQ(typed("balanceField"), QStringLiteral("77"));
+    statementEditor().addOrUpdateStatement();
+    EXPECT_EQ(statements[0]->balance(), NSDecimalNumber::fromText("77"));
+    EXPECT_EQ(statements[2]->balance(), NSDecimalNumber::fromText("100"));
+}
+
+TEST_F(MainWindowEditingTest, addInAnotherRowBeginsAFreshStatementThere)
+{
+    fill();
+    open();
+    pressAddIn(0);
+    pressAddIn(1);
+    settle();
+    ASSERT_TRUE(controller.statementPopover());
+    EXPECT_EQ(statementEditor().card(), second) << "the last of two presses within one event";
+    type("balanceField", "77");
+    pressAddIn(1);
+    settle();
+    EXPECT_EQ(typed("balanceField"), QStringLiteral("77")) << "it is open there already";
+    pressAddIn(0);
+    settle();
+    EXPECT_EQ(statementEditor().card(), first);
+    EXPECT_EQ(statementEditor().statement()->balance(), NSDecimalNumber());
+    EXPECT_TRUE(standsAtItsRecord());
+    EXPECT_EQ(controller.selectedCard(), first);
+    statementEditor().cancel();
+    EXPECT_EQ(noticeButton().text(), QStringLiteral("Continue"));
+    noticeButton().click();
+    EXPECT_EQ(controller.cardForNewStatement(), second);
+    EXPECT_EQ(typed("balanceField"), QStringLiteral("77"));
+
+    clickDot(first->firstStatement());
+    EXPECT_EQ(statementEditor().originalStatement(), &first->firstStatement());
+    EXPECT_EQ(controller.popoverWillReposition(*controller.statementPopover())->view, &timeline())
+        << "it stands at the dot, not in the list";
+    EXPECT_TRUE(standsAtItsRecord());
+    pressAddIn(0);
+    settle();
+    EXPECT_EQ(statementEditor().originalStatement(), nullptr);
+    QTest::mouseClick(&timeline(), Qt::LeftButton, {}, {20, 96 * 2 - 3});
+    EXPECT_FALSE(controller.statementPopover());
+    EXPECT_EQ(statementsInFile(), 3);
+}
+
+TEST_F(MainWindowEditingTest, whatIsDeletedIsNotSelectedAndTheKeyTakesOneThingOnly)
+{
+    fill();
+    open();
+    auto& statement = *first->lastStatement();
+    clickDot(statement);
+    press(Qt::Key_Delete);
+    EXPECT_EQ(controller.selectedStatement(), nullptr);
+    EXPECT_EQ(noticeButton().text(), QStringLiteral("Undo"));
+    press(Qt::Key_Delete);
+    EXPECT_EQ(controller.cardsController().rowCount(), 2) << "the key was for the statement";
+    auto& item = table<QAction>("delete_");
+    controller.validateUserInterfaceItem(item);
+    EXPECT_EQ(item.text(), QStringLiteral("&Delete Card"));
+    press(Qt::Key_Return);
+    EXPECT_EQ(controller.editingCard(), first);
+    press(Qt::Key_Escape, &list());
+    EXPECT_FALSE(controller.cardPopover());
+    controller.getInfo(rowView(1));
+    EXPECT_EQ(controller.editingCard(), second);
+    press(Qt::Key_Escape, &timeline());
+    EXPECT_FALSE(controller.cardPopover());
+
+    controller.undo();
+    EXPECT_EQ(controller.selectedStatement(), &statement);
+    EXPECT_EQ(controller.selectedCard(), first);
+    controller.getInfo(rowView(1));
+    EXPECT_EQ(controller.editingCard(), second) << "a card's row is that card";
+    cardEditor().cancel();
+
+    press(Qt::Key_Up, &list());
+    controller.setSelectedStatement(nullptr);
+    press(Qt::Key_Delete);
+    press(Qt::Key_Delete);
+    EXPECT_EQ(controller.cardsController().rowCount(), 1) << "nor the next card";
+    noticeButton().click();
+    EXPECT_EQ(controller.cardsController().rowCount(), 2);
+    EXPECT_EQ(statementsInFile(), 3);
+}
+
+TEST_F(MainWindowEditingTest, undoSelectsWhatItChangedAndClosesTheEditorOfWhatItTook)
+{
+    fill();
+    open();
+    controller.getInfo(rowView(0));
+    type("nameField", "Zenith");
+    cardEditor().addOrUpdateCard();
+    EXPECT_EQ(controller.selectedRow(), 1);
+    pressAddIn(0);
+    settle();
+    statementEditor().setDate(utc(2015, 6, 1));
+    statementEditor().addOrUpdateStatement();
+    ASSERT_EQ(controller.selectedStatement(), second->lastStatement());
+    EXPECT_EQ(controller.selectedCard(), second);
+    auto& added = *second->lastStatement();
+
+    controller.getSelectedCardInfo();
+    controller.undo();
+    EXPECT_TRUE(added.isDeleted());
+    EXPECT_FALSE(controller.statementPopover()) << "its statement is gone";
+    ASSERT_EQ(noticeButton().text(), QStringLiteral("Redo"));
+    noticeButton().click();
+    EXPECT_EQ(controller.selectedStatement(), &added);
+
+    controller.undo();
+    EXPECT_EQ(controller.selectedStatement(), nullptr);
+    press(Qt::Key_Delete);
+    EXPECT_EQ(controller.cardsController().rowCount(), 2);
+    controller.setSelectedStatement(&first->firstStatement());
+    controller.undo();
+    EXPECT_EQ(first->name(), QStringLiteral("Aurora"));
+    EXPECT_EQ(controller.selectedCard(), first);
+    EXPECT_EQ(controller.selectedStatement(), nullptr) << "the next key is for the card";
+
+    controller.getInfo(rowView(1));
+    controller.redo();
+    EXPECT_EQ(controller.editingCard(), second) << "rows moved, and the editor with its own";
+    EXPECT_EQ(list().rowForCard(second), 0);
+    EXPECT_TRUE(standsAtItsRecord());
+    EXPECT_EQ(controller.selectedCard(), first) << "an open editor leaves the selection alone";
+}
+
+TEST_F(MainWindowEditingTest, aCardThatIsOpenedMeanwhileIsEditedAsACopy)
+{
+    fill();
+    open();
+    controller.getInfo(rowView(0));
+    type("nameField", "Typed");
+    controller.getInfo(rowView(1));
+    EXPECT_EQ(controller.editingCard(), second);
+    EXPECT_NE(cardEditor().card(), second);
+    EXPECT_TRUE(standsAtItsRecord());
+    type("nameField", "Also typed");
+    EXPECT_EQ(second->name(), QStringLiteral("Borealis"));
+    controller.cardPopover()->performClose();
+    controller.cardPopover()->performClose();
+    EXPECT_FALSE(controller.cardPopover());
+    EXPECT_FALSE(undoManager().canUndo());
+    ASSERT_EQ(noticeButton().text(), QStringLiteral("Continue"));
+    noticeButton().click();
+    cardEditor().addOrUpdateCard();
+    EXPECT_EQ(second->name(), QStringLiteral("Also typed"));
+    EXPECT_EQ(first->name(), QStringLiteral("Aurora"));
+
+    controller.addCard();
+    controller.cardPopover()->performClose();
+    EXPECT_EQ(controller.cardsController().rowCount(), 2) << "nobody touched the new one";
+    controller.addCard();
+    type("nameField", "Third");
+    controller.addCard();
+    controller.cardPopover()->performClose();
+    EXPECT_EQ(controller.cardsController().rowCount(), 3);
+    EXPECT_EQ(noticeButton().text(), QStringLiteral("Undo")) << "nobody pressed Add";
 }

@@ -1,0 +1,88 @@
+#include "mainwindow/NoticeText.h"
+
+#include "foundation/DateFormatter.h"
+#include "mainwindow/editing/EditorTarget.h"
+#include "model/CVCard.h"
+#include "model/CVStatement.h"
+#include "store/NSError.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+QString nameOf(const CVCard* card)
+{
+    return card ? card->name().value_or(QString()) : QString();
+}
+
+QString dateOf(const CVStatement& statement)
+{
+    const auto date = statement.date();
+    return date ? DateFormatter::shortText(*date) : QString();
+}
+
+} // namespace
+
+QString NoticeText::deleted(const CVCard& card)
+{
+    const auto count = static_cast<int>(card.statements().size());
+    switch (count) {
+    case 0:
+        return QCoreApplication::translate("NoticeText", "Deleted %1").arg(nameOf(&card));
+    case 1:
+        return QCoreApplication::translate("NoticeText", "Deleted %1 and its statement")
+            .arg(nameOf(&card));
+    default:
+        return QCoreApplication::translate("NoticeText", "Deleted %1 and its %n statements",
+                                           nullptr, count)
+            .arg(nameOf(&card));
+    }
+}
+
+QString NoticeText::deleted(const CVStatement& statement)
+{
+    return QCoreApplication::translate("NoticeText", "Deleted the statement of %1 for %2")
+        .arg(dateOf(statement), nameOf(statement.card()));
+}
+
+QString NoticeText::dropped(const EditorTarget& target)
+{
+    switch (target.kind) {
+    case EditorTarget::Kind::NewCard:
+        return QCoreApplication::translate("NoticeText", "The new card was not added");
+    case EditorTarget::Kind::Card:
+        return QCoreApplication::translate("NoticeText", "The changes to %1 were not kept")
+            .arg(nameOf(static_cast<const CVCard*>(target.record)));
+    case EditorTarget::Kind::NewStatement:
+        return QCoreApplication::translate("NoticeText", "The statement for %1 was not added")
+            .arg(nameOf(static_cast<const CVCard*>(target.record)));
+    case EditorTarget::Kind::Statement: {
+        const auto& statement = static_cast<const CVStatement&>(*target.record);
+        return QCoreApplication::translate(
+                   "NoticeText", "The changes to the statement of %1 for %2 were not kept")
+            .arg(dateOf(statement), nameOf(statement.card()));
+    }
+    }
+    return {};
+}
+
+QString NoticeText::gone(const EditorTarget& target)
+{
+    return target.kind == EditorTarget::Kind::Statement
+               ? QCoreApplication::translate("NoticeText",
+                                             "The statement is gone, so its editor was closed")
+               : QCoreApplication::translate("NoticeText",
+                                             "The card is gone, so its editor was closed");
+}
+
+QString NoticeText::written(const CVCard& card, bool isNew)
+{
+    return (isNew ? QCoreApplication::translate("NoticeText", "Added %1")
+                  : QCoreApplication::translate("NoticeText", "Changed %1"))
+        .arg(nameOf(&card));
+}
+
+QString NoticeText::unsaved(const NSError& error)
+{
+    return QCoreApplication::translate("NoticeText", "Not saved: %1").arg(error.localizedBrief());
+}
