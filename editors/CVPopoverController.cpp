@@ -2,10 +2,12 @@
 
 #include "editors/TypedTextGuard.h"
 #include "store/NSManagedObjectContext.h"
+#include "widgets/AccessibleAnnouncements.h"
 #include "widgets/HighContrast.h"
 #include "widgets/NSPopover.h"
 #include "widgets/StyledTextField.h"
 
+#include <QAccessible>
 #include <QFontInfo>
 #include <QKeyEvent>
 #include <QLabel>
@@ -131,6 +133,7 @@ void CVPopoverController::recordWasHandedOver()
     for (const auto* const field : m_form.fields) {
         m_handedOver.emplace(field->objectName(), field->text());
     }
+    updateLine();
 }
 
 NSManagedObject& CVPopoverController::insertIntoContext(std::string_view entityName) const
@@ -139,6 +142,11 @@ NSManagedObject& CVPopoverController::insertIntoContext(std::string_view entityN
         throw std::logic_error("an editor needs a context for new records");
     }
     return m_context->insertNewObjectForEntityForName(entityName);
+}
+
+QString CVPopoverController::refusal() const
+{
+    return {};
 }
 
 QString CVPopoverController::lineText() const
@@ -152,8 +160,20 @@ void CVPopoverController::updateLine()
         return !guard->field().invalidReason().isEmpty();
     });
     const bool isMarked = marked != m_form.guards.end();
-    setTextColor(*m_form.line, isMarked ? reasonColor : lineColor);
-    m_form.line->setText(isMarked ? (*marked)->field().invalidReason() : lineText());
+    const auto reason = isMarked ? (*marked)->field().invalidReason() : refusal();
+    // What a form is opened with is no mistake of the person.
+    const bool isMistake = isMarked || (!reason.isEmpty() && !typedTexts().empty());
+    setTextColor(*m_form.line, isMistake ? reasonColor : lineColor);
+    m_form.line->setText(reason.isEmpty() ? lineText() : reason);
+
+    const bool isNews = reason != m_form.okButton->accessibleDescription();
+    m_form.okButton->setToolTip(reason);
+    m_form.okButton->setAccessibleDescription(reason);
+    if (isNews && !reason.isEmpty() && m_form.line->isVisible() &&
+        AccessibleAnnouncements::areHeard()) {
+        QAccessibleEvent alert(m_form.line, QAccessible::Alert);
+        AccessibleAnnouncements::make(alert);
+    }
 }
 
 bool CVPopoverController::commitEditing()

@@ -94,9 +94,13 @@ protected:
     /// A new record in the context. Throws std::logic_error when there is none.
     NSManagedObject& insertIntoContext(std::string_view entityName) const;
 
+    /// Why the form cannot be confirmed as it stands, apart from texts that are marked; empty, as
+    /// unless overridden, when it can.
+    virtual QString refusal() const;
     /// What the line says while there is nothing to complain of. Nothing, unless overridden.
     virtual QString lineText() const;
-    /// The line may have something else to say.
+    /// The line may have something else to say. What keeps the form from being confirmed is told to
+    /// assistive technology too.
     void updateLine();
 
     /// Whether all that was typed can be read; if not, the first field that cannot has the focus.

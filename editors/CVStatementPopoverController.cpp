@@ -2,6 +2,8 @@
 
 #include "editors/TypedTextGuard.h"
 #include "foundation/Clock.h"
+#include "foundation/DateFormatter.h"
+#include "foundation/NumberFormatter.h"
 #include "model/CVCard.h"
 #include "model/CVStatement.h"
 #include "model/Calculations.h"
@@ -10,7 +12,17 @@
 
 #include "ui_CVStatementPopover.h"
 
-#include <string>
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+namespace {
+
+/// What a statement says besides its date.
+constexpr auto figureKeys =
+    std::to_array<std::string_view>({"balance", "limit", "payment", "annualPercentageRate"});
+
+} // namespace
 
 CVStatementPopoverController::CVStatementPopoverController()
     : m_ui(std::make_unique<Ui::CVStatementPopover>())
@@ -67,11 +79,10 @@ void CVStatementPopoverController::bindFields()
     });
 
     observeOwn("canAddStatementForDate", [this] {
-        // The reason is for whoever asks the button.
-        const auto refusal = dateRefusal();
-        m_ui->okButton->setEnabled(refusal.isEmpty());
-        m_ui->okButton->setToolTip(refusal);
-        m_ui->dateField->setAccessibleDescription(refusal);
+        const auto reason = refusal();
+        m_ui->okButton->setEnabled(reason.isEmpty());
+        m_ui->dateField->setAccessibleDescription(reason);
+        updateLine();
     });
 }
 
@@ -134,11 +145,11 @@ void CVStatementPopoverController::setDate(const std::optional<Instant>& date)
 
 bool CVStatementPopoverController::canAddStatementForDate() const
 {
-    return dateRefusal().isEmpty();
+    return refusal().isEmpty();
 }
 
-/// Why the date may not be confirmed; empty when it may.
-QString CVStatementPopoverController::dateRefusal() const
+/// What is wrong with the date, or with confirming at all.
+QString CVStatementPopoverController::refusal() const
 {
     if (isTargetGone()) {
         return tr("This was deleted meanwhile.");
@@ -151,8 +162,12 @@ QString CVStatementPopoverController::dateRefusal() const
         return tr("This date is still to come.");
     }
     const auto* const clash = m_card ? m_card->statementForDate(*m_date) : nullptr;
-    return !clash || clash == m_originalStatement ? QString()
-                                                  : tr("This month has a statement already.");
+    if (!clash || clash == m_originalStatement) {
+        return {};
+    }
+    return tr("%1 has a statement already, of %2.")
+        .arg(DateFormatter::textOfFields(*m_date, u"yMMMM"_qs),
+             DateFormatter::shortText(clash->date().value()));
 }
 
 void CVStatementPopoverController::triggerRefresh()
@@ -216,13 +231,52 @@ bool CVStatementPopoverController::isTargetGone() const
 /// What the numbers mean as they stand in the form, with the date that is typed there.
 QString CVStatementPopoverController::lineText() const
 {
-    const bool isReadable = m_ui->balanceField->isReadable() && m_ui->paymentField->isReadable() &&
-                            m_ui->rateField->isReadable();
+    const bool isReadable = m_ui->balanceField->isReadable() && m_ui->limitField->isReadable() &&
+                            m_ui->paymentField->isReadable() && m_ui->rateField->isReadable();
     if (!m_statement || !isReadable) {
         return {};
     }
+    if (const auto correction = correctionText(); !correction.isEmpty()) {
+        return correction;
+    }
     return DebtForecast::formattedForecast(DebtForecast::numberOfPaymentsToClear(*m_statement),
                                            m_date);
+}
+
+/// What a save will put in place of the amounts as they stand in the form; empty for nothing.
+QString CVStatementPopoverController::correctionText() const
+{
+    const auto corrections =
+        willBeCorrected() ? m_statement->corrections() : CVStatement::Corrections();
+    const auto text = [this](const NSDecimalNumber& amount) {
+        return NumberFormatter::currencyText(amount.toPlainText(),
+                                             m_card ? m_card->ccy() : std::nullopt);
+    };
+    if (corrections.limit && corrections.payment) {
+        return tr("The limit and the payment will become the balance, %1.")
+            .arg(text(*corrections.limit));
+    }
+    if (corrections.limit) {
+        return tr("The limit will be raised to the balance, %1.").arg(text(*corrections.limit));
+    }
+    if (corrections.payment) {
+        return tr("A payment of nothing will become the whole balance, %1.")
+            .arg(text(*corrections.payment));
+    }
+    return {};
+}
+
+/// Whether confirming changes a statement that is in the store: the others are saved as they are.
+bool CVStatementPopoverController::willBeCorrected() const
+{
+    const auto* const original = m_originalStatement;
+    if (!original || original->isInserted() || original->isDeleted()) {
+        return false;
+    }
+    return original->isUpdated() || original->date() != m_date ||
+           std::ranges::any_of(figureKeys, [&](std::string_view key) {
+               return original->valueForKey(key) != m_statement->valueForKey(key);
+           });
 }
 
 void CVStatementPopoverController::observeValueForKeyPath(std::string_view keyPath)

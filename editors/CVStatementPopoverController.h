@@ -72,6 +72,7 @@ public Q_SLOTS:
     void addOrUpdateStatement();
 
 protected:
+    QString refusal() const override;
     QString lineText() const override;
 
 private:
@@ -80,7 +81,8 @@ private:
     void bindAmount(AmountField& field, std::string_view keyPath);
     void observeValueForKeyPath(std::string_view keyPath);
     void copyFromLastStatement(CVStatement& newStatement) const;
-    QString dateRefusal() const;
+    QString correctionText() const;
+    bool willBeCorrected() const;
     bool isTargetGone() const;
 
     std::unique_ptr<Ui::CVStatementPopover> m_ui;

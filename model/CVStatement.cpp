@@ -183,24 +183,34 @@ bool CVStatement::validatePayment(std::optional<NSDecimalNumber>& proposal) cons
     return true;
 }
 
+CVStatement::Corrections CVStatement::corrections() const
+{
+    // A balance above the limit needs no look of its own: the limit then lies below the balance.
+    auto proposedLimit = limit();
+    auto proposedPayment = payment();
+    validateLimit(proposedLimit);
+    validatePayment(proposedPayment);
+    Corrections corrections;
+    if (proposedLimit != limit()) {
+        corrections.limit = proposedLimit;
+    }
+    if (proposedPayment != payment()) {
+        corrections.payment = proposedPayment;
+    }
+    return corrections;
+}
+
 bool CVStatement::validateForUpdate()
 {
     const bool isValid = NSManagedObject::validateForUpdate();
-    auto proposedBalance = balance();
-    auto proposedLimit = limit();
-    auto proposedPayment = payment();
-    const bool areAmountsValid = validateBalance(proposedBalance) && validateLimit(proposedLimit) &&
-                                 validatePayment(proposedPayment);
-    if (proposedBalance != balance()) {
-        setBalance(proposedBalance);
+    const auto corrected = corrections();
+    if (corrected.limit) {
+        setLimit(corrected.limit);
     }
-    if (proposedLimit != limit()) {
-        setLimit(proposedLimit);
+    if (corrected.payment) {
+        setPayment(corrected.payment);
     }
-    if (proposedPayment != payment()) {
-        setPayment(proposedPayment);
-    }
-    return isValid && areAmountsValid;
+    return isValid;
 }
 
 PropertyValue CVStatement::valueForKey(std::string_view key) const

@@ -72,7 +72,16 @@ public:
     bool validateLimit(std::optional<NSDecimalNumber>& proposal) const;
     /// A payment of 0 means paying in full: it becomes the balance.
     bool validatePayment(std::optional<NSDecimalNumber>& proposal) const;
-    /// Applies the three rules to what the statement holds.
+
+    /// What the three rules make of the amounts that a statement holds.
+    struct Corrections
+    {
+        /// Absent when the amount stays as it is.
+        std::optional<NSDecimalNumber> limit;
+        std::optional<NSDecimalNumber> payment;
+    };
+    Corrections corrections() const;
+    /// Makes the corrections. New statements are not asked: they are saved as they are.
     bool validateForUpdate() override;
 
     PropertyValue valueForKey(std::string_view key) const override;

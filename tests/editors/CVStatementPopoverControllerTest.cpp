@@ -7,6 +7,7 @@
 #include "tests/support/CardStore.h"
 #include "tests/support/EditorPopover.h"
 #include "tests/support/Utc.h"
+#include "widgets/AccessibleAnnouncements.h"
 
 #include <QAccessible>
 #include <QLabel>
@@ -178,22 +179,70 @@ TEST_F(CVStatementPopoverControllerTest, TheLineSaysWhatTheTypedNumbersMean)
     field(u"paymentField"_qs).setText(u"300 pounds"_qs);
     EXPECT_EQ(line(), QString());
     field(u"paymentField"_qs).setText(u"300"_qs);
+    field(u"dateField"_qs).setText(u"15/03/2013"_qs);
+    field(u"balanceField"_qs).clear();
+    EXPECT_EQ(line(), QString());
+    EXPECT_EQ(editor.statement()->balance(), std::nullopt);
+}
+
+TEST_F(CVStatementPopoverControllerTest, TheLineSaysWhyTheDateCannotBeConfirmed)
+{
+    static QStringList alerts;
+    const auto hear = [](QAccessibleEvent& event) {
+        if (event.type() == QAccessible::Alert) {
+            alerts.append(event.accessibleInterface()->text(QAccessible::Name));
+        }
+    };
+    openForNew();
+    EXPECT_EQ(line(), u"July 2013 has a statement already, of 15/07/2013."_qs);
+    openFor(july);
+    const auto size = editor.view().size();
+    AccessibleAnnouncements::setListener(hear);
     for (const auto& [date, reason] :
          {std::pair(QString(), u"There is no date."_qs),
           {u"soon"_qs, u"This is not a date."_qs},
           {u"15/03/2014"_qs, u"This date is still to come."_qs},
-          {u"20/06/2013"_qs, u"This month has a statement already."_qs}}) {
+          {u"20/06/2013"_qs, u"June 2013 has a statement already, of 15/06/2013."_qs},
+          {u"15/03/2013"_qs, QString()}}) {
         field(u"dateField"_qs).setText(date);
-        EXPECT_FALSE(okButton().isEnabled());
-        EXPECT_EQ(okButton().toolTip(), reason) << "and there is no other message";
+        EXPECT_EQ(okButton().isEnabled(), reason.isEmpty());
+        EXPECT_EQ(line(), reason.isEmpty() ? u"4 m ⟶ 15/07/2013"_qs : reason);
+        EXPECT_EQ(okButton().toolTip(), reason);
+        EXPECT_EQ(okButton().accessibleDescription(), reason);
+        EXPECT_EQ(field(u"dateField"_qs).accessibleDescription(), reason);
+        EXPECT_EQ(editor.view().sizeHint(), size);
     }
-    field(u"dateField"_qs).clear();
-    EXPECT_EQ(line(), QString());
-    field(u"dateField"_qs).setText(u"15/03/2013"_qs);
-    EXPECT_EQ(okButton().toolTip(), QString());
-    field(u"balanceField"_qs).clear();
-    EXPECT_EQ(line(), QString());
-    EXPECT_EQ(editor.statement()->balance(), std::nullopt);
+    AccessibleAnnouncements::setListener(nullptr);
+    EXPECT_EQ(alerts.size(), 4) << "each reason once";
+}
+
+TEST_F(CVStatementPopoverControllerTest, TheLineSaysWhatConfirmingWillCorrect)
+{
+    const auto limitRaised = u"The limit will be raised to the balance, £9,000.00."_qs;
+    auto& balance = field(u"balanceField"_qs);
+    auto& payment = field(u"paymentField"_qs);
+    openFor(july);
+    balance.setText(u"9000"_qs);
+    EXPECT_EQ(line(), limitRaised);
+    field(u"limitField"_qs).setText(u"9000"_qs);
+    payment.setText(u"0"_qs);
+    EXPECT_EQ(line(), u"A payment of nothing will become the whole balance, £9,000.00."_qs);
+    field(u"limitField"_qs).setText(u"1"_qs);
+    EXPECT_EQ(line(), u"The limit and the payment will become the balance, £9,000.00."_qs);
+    field(u"dateField"_qs).setText(u"soon"_qs);
+    EXPECT_EQ(line(), u"This is not a date."_qs);
+
+    // As it is saved, a new one stays, and so does one in which nothing is changed.
+    openForNew();
+    field(u"dateField"_qs).setText(u"10/05/2013"_qs);
+    balance.setText(u"9000"_qs);
+    EXPECT_NE(line(), limitRaised);
+    auto& may = store.insertStatement(&card, utc(2013, 5, 15), {"9000", "1", "500", 0.0});
+    store.save();
+    openFor(may);
+    EXPECT_EQ(line(), u"18 m ⟶ 15/11/2014"_qs);
+    payment.setText(u"501"_qs);
+    EXPECT_EQ(line(), limitRaised);
 }
 
 TEST_F(CVStatementPopoverControllerTest, WhatCannotBeReadRefusesToBeConfirmed)
