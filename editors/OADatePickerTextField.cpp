@@ -2,6 +2,8 @@
 
 #include "editors/OADatePickerButton.h"
 #include "editors/OAPopupDatePicker.h"
+#include "foundation/Calendar.h"
+#include "foundation/Clock.h"
 #include "foundation/RelativeDateFormatter.h"
 
 #include <QKeyEvent>
@@ -12,10 +14,26 @@ namespace {
 /// What the text and the button keep free at the button's side, in points.
 constexpr int calendarInset = 2;
 
-/// Gives a field the dates that people type.
-class DateFieldFormatter : public OATextFieldFormatter
+bool isSameDay(Instant left, Instant right)
+{
+    const auto& calendar = Calendar::current();
+    const auto first = calendar.components(left);
+    const auto second = calendar.components(right);
+    return first && second && first->year == second->year && first->month == second->month &&
+           first->day == second->day;
+}
+
+} // namespace
+
+/// Gives the field the dates that people type.
+class OADatePickerTextField::Formatter : public OATextFieldFormatter
 {
 public:
+    /// The field owns the formatter.
+    explicit Formatter(const OADatePickerTextField& field)
+        : m_field(field)
+    {}
+
     QString stringForObjectValue(const PropertyValue& value) const override
     {
         const auto date = propertyValueAs<Instant>(value);
@@ -24,12 +42,18 @@ public:
 
     PropertyValue objectValueForString(const QString& text) const override
     {
-        return propertyValue(m_formatter.dateFromString(text));
+        const auto date = m_formatter.dateFromString(text);
+        return date ? PropertyValue(m_field.withoutTimeToCome(*date)) : PropertyValue();
     }
 
     std::optional<PropertyValue> steppedValue(const PropertyValue& value, Step step) const override
     {
-        const auto date = propertyValueAs<Instant>(value);
+        return m_field.withoutTimeToCome(stepped(propertyValueAs<Instant>(value), step));
+    }
+
+private:
+    Instant stepped(std::optional<Instant> date, Step step) const
+    {
         switch (step) {
         case Step::Up:
             return m_formatter.stepUpValue(date);
@@ -38,23 +62,21 @@ public:
         case Step::Down:
             return m_formatter.stepDownValue(date);
         case Step::LargeDown:
-            return m_formatter.largeStepDownValue(date);
+            break;
         }
-        return std::nullopt;
+        return m_formatter.largeStepDownValue(date);
     }
 
-private:
+    const OADatePickerTextField& m_field;
     RelativeDateFormatter m_formatter;
 };
-
-} // namespace
 
 OADatePickerTextField::OADatePickerTextField(QWidget* parent)
     : OASteppableTextField(parent)
     , m_calendarButton(new OADatePickerButton(this))
     , m_ownTextMargins(textMargins())
 {
-    setFormatter(std::make_unique<DateFieldFormatter>());
+    setFormatter(std::make_unique<Formatter>(*this));
     connect(m_calendarButton, &QAbstractButton::clicked, this,
             &OADatePickerTextField::toggleDatePicker);
     layOutCalendarButton();
@@ -75,6 +97,21 @@ void OADatePickerTextField::setDate(std::optional<Instant> date)
 void OADatePickerTextField::enterDate(std::optional<Instant> date)
 {
     enterObjectValue(propertyValue(date));
+}
+
+void OADatePickerTextField::pickDate(Instant date)
+{
+    enterDate(withoutTimeToCome(date));
+}
+
+/// The date; today at a time that is still to come is the present instant instead, or the last one
+/// that a step may lead to.
+Instant OADatePickerTextField::withoutTimeToCome(Instant date) const
+{
+    const auto now = Clock::now();
+    const bool endsToday = m_maxDate && *m_maxDate < now && isSameDay(*m_maxDate, now);
+    const auto last = endsToday ? *m_maxDate : now;
+    return date > last && isSameDay(date, now) ? last : date;
 }
 
 Instant OADatePickerTextField::defaultDate() const

@@ -11,6 +11,9 @@ class OADatePickerButton;
 
 /// A text field for a date. It is typed, stepped by a day or a month with the arrow keys, or picked
 /// from a calendar, which the button at the field's end and Alt with the Down key open.
+///
+/// Whoever types, steps to or picks today means the day and not an hour of it: a time of day that
+/// is still to come becomes the present one.
 class OADatePickerTextField : public OASteppableTextField
 {
     Q_OBJECT
@@ -25,6 +28,8 @@ public:
     void setDate(std::optional<Instant> date);
     /// Shows a date and announces it, as when the person typed it.
     void enterDate(std::optional<Instant> date);
+    /// Enters a date that the person picked.
+    void pickDate(Instant date);
 
     /// The first and the last date that a step may lead to; absent for none. What is typed or
     /// picked may lie beyond.
@@ -60,6 +65,9 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    class Formatter;
+
+    Instant withoutTimeToCome(Instant date) const;
     void layOutCalendarButton();
 
     std::optional<Instant> m_minDate;

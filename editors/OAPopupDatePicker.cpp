@@ -138,7 +138,7 @@ void OAPopupDatePicker::pick(Instant date)
 {
     if (m_control) {
         m_hasPicked = true;
-        m_control->enterDate(date);
+        m_control->pickDate(date);
     }
 }
 

@@ -245,6 +245,30 @@ TEST_F(CVStatementPopoverControllerTest, TheLineSaysWhatConfirmingWillCorrect)
     EXPECT_EQ(line(), limitRaised);
 }
 
+TEST_F(CVStatementPopoverControllerTest, TodayIsConfirmableAtAnyTimeOfDay)
+{
+    july.setDate(utc(2013, 7, 19, 23));
+    openFor(july);
+    editor.dateField().setMaxDate(Clock::now());
+    clock.advance(1);
+    for (const auto& [name, enter] :
+         std::initializer_list<std::pair<const char*, void (*)(OADatePickerTextField&)>>{
+             {"stepped",
+              [](OADatePickerTextField& dateField) {
+                  QTest::keyClick(&dateField, Qt::Key_Up);
+              }},
+             {"picked", [](OADatePickerTextField& dateField) {
+                  dateField.pickDate(utc(2013, 7, 20, 23));
+              }}}) {
+        editor.dateField().enterDate(july.date());
+        enter(editor.dateField());
+        EXPECT_EQ(editor.date(), utc(2013, 7, 20, 12)) << name;
+        EXPECT_TRUE(okButton().isEnabled()) << name;
+    }
+    editor.dateField().pickDate(utc(2013, 7, 21));
+    EXPECT_FALSE(okButton().isEnabled());
+}
+
 TEST_F(CVStatementPopoverControllerTest, WhatCannotBeReadRefusesToBeConfirmed)
 {
     openFor(july);
