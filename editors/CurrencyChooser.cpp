@@ -16,8 +16,8 @@
 #include <QStyledItemDelegate>
 
 #include <algorithm>
-#include <array>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -39,11 +39,8 @@ QString title(const QString& code)
     return name == code ? code : QString(code % u" – " % name);
 }
 
-/// How many ways there are for a currency to fit what was typed.
-constexpr std::size_t fits = 3;
-
 /// How well a currency fits what was typed, in comparable form; 0 is best. Absent when it does not.
-std::optional<std::size_t> fit(const QString& code, const std::u32string& typed)
+std::optional<int> fit(const QString& code, const std::u32string& typed)
 {
     if (TypedText::comparable(code).starts_with(typed)) {
         return 0;
@@ -52,9 +49,17 @@ std::optional<std::size_t> fit(const QString& code, const std::u32string& typed)
     if (name.starts_with(typed)) {
         return 1;
     }
-    return name.find(U' ' + typed) == std::u32string::npos ? std::nullopt
-                                                           : std::optional<std::size_t>(2);
+    return name.find(U' ' + typed) == std::u32string::npos ? std::nullopt : std::optional(2);
 }
+
+/// Of several currencies that fit, the one that a person means is likelier the local one, and
+/// likelier one that is in use than a former one.
+enum class Likelihood
+{
+    Local,
+    InUse,
+    Former
+};
 
 /// The button at the end of the field: a chevron that points down. A text that is too long fades
 /// out before it.
@@ -112,6 +117,13 @@ protected:
 };
 
 } // namespace
+
+struct CurrencyChooser::Match
+{
+    QString code;
+    Likelihood likelihood;
+    int fit;
+};
 
 CurrencyChooser::CurrencyChooser(QWidget* parent)
     : StyledTextField(parent)
@@ -188,7 +200,11 @@ std::optional<QString> CurrencyChooser::readCurrency() const
     const auto found = std::ranges::find_if(m_currencies, [&](const QString& code) {
         return isNamed(code) || isNamed(title(code)) || isNamed(Currency::name(code));
     });
-    return found == m_currencies.end() ? std::nullopt : std::optional(*found);
+    if (found != m_currencies.end()) {
+        return *found;
+    }
+    const auto meant = Currency::codeForSign(typed);
+    return meant && m_currencies.contains(*meant) ? meant : std::nullopt;
 }
 
 void CurrencyChooser::readText()
@@ -207,8 +223,10 @@ void CurrencyChooser::finishEditing()
         choose(m_offered.value(list->currentIndex().row()));
     } else if (readCurrency()) {
         show(m_currency);
-    } else if (const auto fitting = matches(); fitting.size() == 1) {
-        choose(fitting.first());
+    } else if (const auto fitting = matches();
+               !fitting.empty() &&
+               (fitting.size() == 1 || fitting[0].likelihood != fitting[1].likelihood)) {
+        choose(fitting.front().code);
     }
 }
 
@@ -226,26 +244,34 @@ void CurrencyChooser::show(const QString& code)
     setCursorPosition(0);
 }
 
-/// The currencies that fit the text, the best first.
-QStringList CurrencyChooser::matches() const
+/// The currencies that fit the text: the likelier first, and of those the ones that fit better.
+std::vector<CurrencyChooser::Match> CurrencyChooser::matches() const
 {
-    std::array<QStringList, fits> matches;
+    std::vector<Match> matches;
     const auto typed = TypedText::comparable(text());
+    if (typed.empty()) {
+        return matches;
+    }
+    const auto local = Currency::localCode();
     for (const auto& code : m_currencies) {
-        if (const auto found = typed.empty() ? std::nullopt : fit(code, typed)) {
-            matches.at(*found).append(code);
+        if (const auto found = fit(code, typed)) {
+            const auto likelihood = code == local                           ? Likelihood::Local
+                                    : Currency::codesInUse().contains(code) ? Likelihood::InUse
+                                                                            : Likelihood::Former;
+            matches.push_back({code, likelihood, *found});
         }
     }
-    QStringList all;
-    for (const auto& some : matches) {
-        all += some;
-    }
-    return all;
+    std::ranges::stable_sort(
+        matches, {}, [](const Match& match) { return std::pair(match.likelihood, match.fit); });
+    return matches;
 }
 
 void CurrencyChooser::offerMatches()
 {
-    const auto fitting = matches();
+    QStringList fitting;
+    for (const auto& match : matches()) {
+        fitting.append(match.code);
+    }
     offer(fitting, std::max<qsizetype>(fitting.indexOf(readCurrency().value_or(QString())), 0));
 }
 

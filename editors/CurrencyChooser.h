@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include <optional>
+#include <vector>
 
 class QCompleter;
 class QStringListModel;
@@ -12,10 +13,12 @@ class TypedTextGuard;
 
 /// A field for a currency, which is typed or chosen from a list.
 ///
-/// What is typed may be the code or the beginning of a word of the name, in the language of the
-/// person; the list then offers the currencies that fit, those that fit best first. The Down key
-/// and the button in the field show the whole list. A text that names no currency is marked with
-/// the reason and keeps the focus in the form.
+/// What is typed may be the code, the sign, or the beginning of a word of the name, in the language
+/// of the person; the list then offers the currencies that fit: the local one first, then those
+/// that people pay with today, then the former ones. The Down key and the button in the field show
+/// the whole list. A text is taken for a currency when the field is left and no other one is as
+/// likely: "pound" is the British one in Britain. Any other text is marked with the reason and
+/// keeps the focus in the form.
 class CurrencyChooser : public StyledTextField
 {
     Q_OBJECT
@@ -50,7 +53,9 @@ private:
     void choose(const QString& code);
     void show(const QString& code);
 
-    QStringList matches() const;
+    struct Match;
+
+    std::vector<Match> matches() const;
     void offerMatches();
     void offerAll();
     void offer(const QStringList& codes, qsizetype current);

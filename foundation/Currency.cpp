@@ -3,11 +3,13 @@
 #include "foundation/KeptForSettings.h"
 #include "foundation/RegionalSettings.h"
 
+#include <QHash>
 #include <unicode/ucurr.h>
 #include <unicode/uloc.h>
 
 #include <algorithm>
 #include <array>
+#include <string>
 #include <string_view>
 #include <utility>
 
@@ -77,35 +79,54 @@ QStringList codesOfKind(std::uint32_t kind)
     return codes;
 }
 
-/// Whether a sign, in comparable form, is the one that this style has for the currency.
-bool isSign(const QString& sign, const QString& code, UCurrNameStyle style,
-            const std::string& locale)
+/// The sign that this style has for the currency, in comparable form; empty for none.
+QString comparableSign(const QString& code, UCurrNameStyle style, const std::string& locale)
 {
-    const auto found = nameInStyle(code, style, locale);
-    return found && comparable(*found) == sign;
+    return comparable(nameInStyle(code, style, locale).value_or(QString()));
 }
 
-bool isLocalSign(const QString& sign, const QString& code)
+/// The currency that each sign stands for; an empty code when there are several.
+QHash<QString, QString> meaningsOfSigns(const std::string& locale)
 {
-    const auto& locale = RegionalSettings::current().moneyLocale();
-    return isSign(sign, code, UCURR_SYMBOL_NAME, locale) ||
-           isSign(sign, code, UCURR_NARROW_SYMBOL_NAME, locale);
+    QHash<QString, QString> meanings;
+    if (const auto local = Currency::localCode()) {
+        meanings.insert(comparableSign(*local, UCURR_SYMBOL_NAME, locale), *local);
+        meanings.insert(comparableSign(*local, UCURR_NARROW_SYMBOL_NAME, locale), *local);
+    }
+    // What an earlier one of them decides, the later ones leave alone.
+    for (const auto& [style, place] :
+         {std::pair(UCURR_SYMBOL_NAME, locale), std::pair(UCURR_SYMBOL_NAME, shortSignsLocale),
+          std::pair(UCURR_SYMBOL_NAME, clearSignsLocale),
+          std::pair(UCURR_NARROW_SYMBOL_NAME, locale)}) {
+        QHash<QString, QString> found;
+        for (const auto& code : Currency::codesInUse()) {
+            const auto sign = comparableSign(code, style, place);
+            found.insert(sign, found.contains(sign) ? QString() : code);
+        }
+        found.insert(meanings);
+        meanings.swap(found);
+    }
+    meanings.remove(QString());
+    return meanings;
 }
 
 } // namespace
 
 std::optional<QString> Currency::localCode()
 {
-    std::array<char16_t, 4> code{};
-    UErrorCode status = U_ZERO_ERROR;
-    const int length = ucurr_forLocale(RegionalSettings::current().moneyLocale().c_str(),
-                                       code.data(), code.size(), &status);
-    if (U_FAILURE(status) || length == 0) {
-        return std::nullopt;
-    }
-    // Where nothing is said of the country, ICU answers "no currency", or silver.
-    const auto found = QStringView(code.data(), length).toString();
-    return codesOfKind(UCURR_COMMON).contains(found) ? std::optional(found) : std::nullopt;
+    static KeptForSettings<int, std::optional<QString>> kept;
+    return kept.get(0, [](const RegionalSettings& settings) -> std::optional<QString> {
+        std::array<char16_t, 4> code{};
+        UErrorCode status = U_ZERO_ERROR;
+        const int length =
+            ucurr_forLocale(settings.moneyLocale().c_str(), code.data(), code.size(), &status);
+        if (U_FAILURE(status) || length == 0) {
+            return std::nullopt;
+        }
+        // Where the country has no currency of its own, ICU answers "no currency", or silver.
+        const auto found = QStringView(code.data(), length).toString();
+        return codesOfKind(UCURR_COMMON).contains(found) ? std::optional(found) : std::nullopt;
+    });
 }
 
 QStringList Currency::isoCodes()
@@ -176,39 +197,26 @@ bool Currency::isSignOrCode(const QString& text)
 
 bool Currency::isSignOrCodeOf(const QString& text, const QString& code)
 {
-    auto sign = comparable(text);
+    const auto sign = comparable(text);
     const auto capitals = code.toUpper();
-    if (sign == capitals || isLocalSign(sign, capitals) ||
-        isSign(sign, capitals, UCURR_SYMBOL_NAME, shortSignsLocale) ||
-        isSign(sign, capitals, UCURR_SYMBOL_NAME, clearSignsLocale)) {
-        return true;
-    }
+    const auto& locale = RegionalSettings::current().moneyLocale();
+    QStringList own{capitals, comparableSign(capitals, UCURR_SYMBOL_NAME, locale),
+                    comparableSign(capitals, UCURR_NARROW_SYMBOL_NAME, locale),
+                    comparableSign(capitals, UCURR_SYMBOL_NAME, shortSignsLocale)};
     // "US$" and "C$": the sign with the beginning of the code, as where several countries have it.
-    const auto narrow = nameInStyle(capitals, UCURR_NARROW_SYMBOL_NAME, clearSignsLocale);
-    return narrow && (sign == *narrow || sign == capitals.left(1) + *narrow ||
-                      sign == capitals.left(2) + *narrow);
+    const auto narrow = comparableSign(capitals, UCURR_NARROW_SYMBOL_NAME, clearSignsLocale);
+    if (!narrow.isEmpty()) {
+        own << narrow << capitals.left(1) + narrow << capitals.left(2) + narrow;
+    }
+    return !sign.isEmpty() && own.contains(sign);
 }
 
 std::optional<QString> Currency::codeForSign(const QString& sign)
 {
-    const auto wanted = comparable(sign);
-    if (const auto local = localCode(); local && isLocalSign(wanted, *local)) {
-        return local;
-    }
-    const auto& locale = RegionalSettings::current().moneyLocale();
-    for (const auto& [style, place] : {std::pair(UCURR_SYMBOL_NAME, locale),
-                                       {UCURR_SYMBOL_NAME, shortSignsLocale},
-                                       {UCURR_SYMBOL_NAME, clearSignsLocale},
-                                       {UCURR_NARROW_SYMBOL_NAME, locale}}) {
-        QStringList found;
-        for (const auto& code : codesInUse()) {
-            if (isSign(wanted, code, style, place)) {
-                found.append(code);
-            }
-        }
-        if (!found.isEmpty()) {
-            return found.size() == 1 ? std::optional(found.first()) : std::nullopt;
-        }
-    }
-    return std::nullopt;
+    static KeptForSettings<int, QHash<QString, QString>> kept;
+    const auto& codes = kept.get(0, [](const RegionalSettings& settings) {
+        return meaningsOfSigns(settings.moneyLocale());
+    });
+    const auto code = codes.value(comparable(sign));
+    return code.isEmpty() ? std::nullopt : std::optional(code);
 }

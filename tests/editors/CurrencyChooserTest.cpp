@@ -9,6 +9,8 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include <array>
+
 namespace {
 
 /// A form with a chooser that has the focus, and a field behind it.
@@ -70,6 +72,36 @@ TEST_F(CurrencyChooserTest, FindsByCodeAndByTheWordsOfTheName)
     EXPECT_TRUE(other.hasFocus());
 }
 
+TEST_F(CurrencyChooserTest, TakesATextForTheLikeliestCurrency)
+{
+    struct Row
+    {
+        const char* locale;
+        const char* typed;
+        const char* code; ///< "" when the text is refused.
+    };
+    for (const auto& row : std::to_array<Row>({{"en_GB", "pound", "GBP"},
+                                               {"en_US", "dollar", "USD"},
+                                               {"en_AU", "dollar", "AUD"},
+                                               {"en_GB", "lira", "TRY"},
+                                               {"fr_CH", "franc", "CHF"},
+                                               {"en_GB", "dem", "DEM"},
+                                               {"en_GB", "€", "EUR"},
+                                               {"en_GB", "$", "USD"},
+                                               {"en_CA", "$", "CAD"},
+                                               {"en_GB", "dollar", ""},
+                                               {"en_AQ", "pound", ""}})) {
+        const ScopedRegionalSettings there({row.locale, row.locale, "Europe/London"});
+        chooser.setCurrency(QString());
+        chooser.setText(QString::fromUtf8(row.typed));
+        EXPECT_EQ(chooser.guard().commitEditing(), *row.code != '\0');
+        EXPECT_EQ(chooser.currency().toStdString(), row.code) << row.locale << ' ' << row.typed;
+    }
+    type(u"pound"_qs);
+    ASSERT_NE(list(), nullptr);
+    EXPECT_EQ(list()->currentIndex().data().toString(), u"GBP – British Pound"_qs);
+}
+
 TEST_F(CurrencyChooserTest, OffersTheWholeListInTheSystemsOrder)
 {
     QTest::keyClick(&chooser, Qt::Key_Down);
@@ -86,7 +118,7 @@ TEST_F(CurrencyChooserTest, OffersTheWholeListInTheSystemsOrder)
 
 TEST_F(CurrencyChooserTest, KeepsWhatNamesNoCurrencyInTheField)
 {
-    type(u"pound"_qs);
+    type(u"dollar"_qs);
     QTest::keyClick(list(), Qt::Key_Escape);
     QTest::keyClick(&chooser, Qt::Key_Tab);
     EXPECT_TRUE(chooser.hasFocus());
