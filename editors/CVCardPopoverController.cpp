@@ -7,18 +7,15 @@
 
 #include "ui_CVCardPopover.h"
 
-#include <stdexcept>
+#include <QRegularExpression>
 
 namespace {
 
-/// Shows what the record has, unless the field shows it already: the caret stays where it is when
-/// the record takes over what is being typed.
-void showText(QLineEdit& field, const std::optional<QString>& text)
+/// A name is one line: what comes in several, as pasted texts do, is one with spaces.
+QString inOneLine(QString text)
 {
-    if (field.text() != text.value_or(QString())) {
-        field.setText(text.value_or(QString()));
-        field.setCursorPosition(0);
-    }
+    static const QRegularExpression lineBreak(u"\\r\\n|[\\n\\v\\f\\r\\x{85}\\x{2028}\\x{2029}]"_qs);
+    return text.replace(lineBreak, u" "_qs);
 }
 
 bool isGone(const CVCard* card)
@@ -45,33 +42,48 @@ void CVCardPopoverController::awakeFromNib()
                {m_ui->nameField, m_ui->accountField, m_ui->currencyChooser},
                {&m_ui->currencyChooser->guard()}},
               [this] { addOrUpdateCard(); });
-    connect(m_ui->nameField, &QLineEdit::textChanged, this, [this](const QString& text) {
-        if (m_card && m_card->name().value_or(QString()) != text) {
-            m_card->setName(text);
-        }
-    });
-    connect(m_ui->accountField, &QLineEdit::textChanged, this, [this](const QString& text) {
-        if (m_card && m_card->account().value_or(QString()) != text) {
-            m_card->setAccount(text);
-        }
-    });
+    bindText(*m_ui->nameField, "card.name");
+    bindText(*m_ui->accountField, "card.account");
     connect(m_ui->currencyChooser, &CurrencyChooser::currencyDidChange, this, [this] {
         if (m_card) {
             m_card->setCcy(m_ui->currencyChooser->currency());
         }
     });
     observeOwn("card", [this] { showCurrency(); });
-    observeOwn("card.name",
-               [this] { showText(*m_ui->nameField, m_card ? m_card->name() : std::nullopt); });
-    observeOwn("card.account", [this] {
-        showText(*m_ui->accountField, m_card ? m_card->account() : std::nullopt);
-    });
     observeOwn("card.ccy", [this] {
         if (m_card && m_card->ccy() != m_ui->currencyChooser->currency()) {
             showCurrency();
         }
     });
     setCurrencyList(Currency::isoCodes());
+}
+
+/// Ties a field to the text that it shows, both ways.
+void CVCardPopoverController::bindText(QLineEdit& field, std::string_view keyPath)
+{
+    const auto key = keyPath.substr(keyPath.find('.') + 1);
+    const auto recordText = [this, key] {
+        const auto value = m_card ? m_card->valueForKey(key) : PropertyValue();
+        return propertyValueAs<QString>(value).value_or(QString());
+    };
+    connect(&field, &QLineEdit::textChanged, this, [this, &field, key, recordText] {
+        const auto text = field.text();
+        if (!m_card || text == recordText()) {
+            return;
+        }
+        const auto caret = inOneLine(text.left(field.cursorPosition())).size();
+        m_card->setValueForKey(inOneLine(text), key);
+        if (field.text() != text) {
+            field.setCursorPosition(static_cast<int>(caret));
+        }
+    });
+    // The caret stays where it is when the record takes over what is being typed.
+    observeOwn(keyPath, [&field, recordText] {
+        if (field.text() != recordText()) {
+            field.setText(recordText());
+            field.setCursorPosition(0);
+        }
+    });
 }
 
 void CVCardPopoverController::showCurrency()

@@ -5,6 +5,7 @@
 #include <QStringList>
 
 class CVCard;
+class QLineEdit;
 
 namespace Ui {
 class CVCardPopover;
@@ -54,6 +55,7 @@ public Q_SLOTS:
 
 private:
     void awakeFromNib();
+    void bindText(QLineEdit& field, std::string_view keyPath);
     void showCurrency();
 
     std::unique_ptr<Ui::CVCardPopover> m_ui;

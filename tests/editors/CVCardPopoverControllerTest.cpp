@@ -7,6 +7,7 @@
 #include "tests/support/CardStore.h"
 #include "tests/support/EditorPopover.h"
 
+#include <QClipboard>
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
@@ -49,8 +50,8 @@ protected:
 TEST_F(CVCardPopoverControllerTest, ANewCardHasTheCurrencyOfTheLocaleIfThereIsOne)
 {
     EXPECT_EQ(editor.currencyList(), Currency::isoCodes());
-    for (const auto& [locale, ccy] :
-         {std::pair("de_DE", u"EUR"_qs), std::pair("en_GB", u"GBP"_qs), std::pair("eo", u""_qs)}) {
+    for (const auto& [locale, ccy] : {std::pair("de_DE", u"EUR"_qs), std::pair("en_GB", u"GBP"_qs),
+                                      std::pair("eo", u""_qs), std::pair("en_AQ", u""_qs)}) {
         const ScopedRegionalSettings regional({locale, locale, "Europe/Berlin"});
         auto& newCard = editor.createNewCard();
         EXPECT_EQ(editor.card(), &newCard);
@@ -96,6 +97,24 @@ TEST_F(CVCardPopoverControllerTest, WhatIsTypedIsInTheScratchCardAtOnceAndOnlyTh
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
     EXPECT_FALSE(popover.isShown());
     EXPECT_FALSE(editor.isDirty());
+}
+
+TEST_F(CVCardPopoverControllerTest, ANameHasNoLineBreaks)
+{
+    openFor(card);
+    QGuiApplication::clipboard()->setText(u"Every\r\nday\n"_qs);
+    field(u"nameField"_qs).clear();
+    QTest::keyClicks(QApplication::focusWidget(), u"!"_qs);
+    field(u"nameField"_qs).home(false);
+    field(u"nameField"_qs).paste();
+    EXPECT_EQ(editor.card()->name(), u"Every day !"_qs);
+    EXPECT_EQ(field(u"nameField"_qs).text(), u"Every day !"_qs);
+    EXPECT_EQ(field(u"nameField"_qs).cursorPosition(), 10);
+
+    // One that a file holds is shown, and stays while nobody types.
+    card.setAccount(u"1\n2"_qs);
+    openFor(card);
+    EXPECT_EQ(editor.card()->account(), u"1\n2"_qs);
 }
 
 TEST_F(CVCardPopoverControllerTest, ConfirmingLeavesNoStepToUndoInTheScratchContext)

@@ -163,7 +163,7 @@ TEST_F(CVStatementPopoverControllerTest, FieldsGoRoundInOrderAndAreCalledAsTheir
         names.append(QAccessible::queryAccessibleInterface(focused)->text(QAccessible::Name));
         QTest::keyClick(focused, Qt::Key_Tab);
     }
-    EXPECT_EQ(names.join(u' ').toStdString(), "Date Balance Limit Payment APR Cancel Update Date");
+    EXPECT_EQ(names.join(u' ').toStdString(), "Date Balance Limit Payment APR Update Cancel Date");
 }
 
 TEST_F(CVStatementPopoverControllerTest, TheLineSaysWhatTheTypedNumbersMean)
