@@ -69,7 +69,7 @@ CVPopoverController::TypedTexts CVPopoverController::typedTexts() const
     TypedTexts texts;
     for (const auto* const field : m_form.fields) {
         const auto handedOver = m_handedOver.find(field->objectName());
-        if (handedOver != m_handedOver.end() && field->text() != handedOver->second) {
+        if (handedOver != m_handedOver.end() && field->settledText() != handedOver->second) {
             texts.emplace(field->objectName(), field->text());
         }
     }

@@ -133,10 +133,20 @@ void OASteppableTextField::readText(const QString& text)
     announce();
 }
 
+QString OASteppableTextField::settledText() const
+{
+    return isAbsent(m_objectValue) ? text() : textOfObjectValue();
+}
+
+QString OASteppableTextField::textOfObjectValue() const
+{
+    return m_formatter ? m_formatter->stringForObjectValue(m_objectValue)
+                       : propertyValueAs<QString>(m_objectValue).value_or(QString());
+}
+
 void OASteppableTextField::showObjectValue()
 {
-    const auto shown = m_formatter ? m_formatter->stringForObjectValue(m_objectValue)
-                                   : propertyValueAs<QString>(m_objectValue).value_or(QString());
+    const auto shown = textOfObjectValue();
     m_writtenText = shown;
     m_writtenValue = m_objectValue;
     if (shown != text()) {

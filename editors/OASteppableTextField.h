@@ -38,6 +38,8 @@ public:
     /// Whether the text can be read, or there is none.
     bool isReadable() const;
 
+    QString settledText() const override;
+
     /// Whether a step may lead to this value. Here it may lead to any.
     virtual bool validateSteppedObjectValue(const PropertyValue& value) const;
     /// Steps once, as a key does. False, with nothing changed, when the field cannot be edited, its
@@ -65,6 +67,7 @@ protected:
 
 private:
     void readText(const QString& text);
+    QString textOfObjectValue() const;
     void showObjectValue();
     void showReadableValueAnew();
     void announce();

@@ -21,6 +21,10 @@ public:
     QString invalidReason() const { return m_invalidReason; }
     void setInvalidReason(const QString& reason);
 
+    /// The text as it stands there when the person has left the field: a field that has a way of
+    /// its own to write its value answers that.
+    virtual QString settledText() const { return text(); }
+
     /// 26 points high, or higher where the font needs it.
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

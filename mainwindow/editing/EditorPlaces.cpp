@@ -61,10 +61,10 @@ std::optional<PopoverAnchor> EditorPlaces::placeOf(const EditorTarget& target) c
                           &CVCardTableView::newStatementPopoverAnchorRectForRow);
     case EditorTarget::Kind::Statement: {
         const auto& statement = static_cast<const CVStatement&>(*target.record);
-        const auto dot = placeOfDot(m_timeline, statement);
-        return dot ? dot
-                   : placeInRow(m_cards, statement.card(),
-                                &CVCardTableView::cardInfoPopoverAnchorRectForRow);
+        const auto row = placeInRow(m_cards, statement.card(),
+                                    &CVCardTableView::cardInfoPopoverAnchorRectForRow);
+        const auto dot = row ? placeOfDot(m_timeline, statement) : std::nullopt;
+        return dot ? dot : row;
     }
     }
     return std::nullopt;

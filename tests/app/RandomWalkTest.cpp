@@ -13,6 +13,8 @@
 #include "editors/RateField.h"
 #include "editors/TypedTextGuard.h"
 #include "foundation/Clock.h"
+#include "mainwindow/CVCardTableRowView.h"
+#include "mainwindow/CVCardTableView.h"
 #include "mainwindow/MainWindowController.h"
 #include "model/CVCard.h"
 #include "model/CVStatement.h"
@@ -20,7 +22,12 @@
 #include "store/NSManagedObjectContext.h"
 #include "tests/support/PlainModel.h"
 #include "tests/support/Utc.h"
+#include "timeline/CVTimelineTableView.h"
+#include "widgets/DismissButton.h"
+#include "widgets/FormButton.h"
 #include "widgets/NSPopover.h"
+#include "widgets/NoticeBar.h"
+#include "widgets/PopoverAnchor.h"
 
 #include <QAction>
 #include <QLineEdit>
@@ -43,7 +50,9 @@ enum class Act
 {
     AddCard,
     AddStatement,
+    PressAdd,
     OpenEditor,
+    DoubleClick,
     TypeInEditor,
     Confirm,
     Cancel,
@@ -55,6 +64,8 @@ enum class Act
     SelectCard,
     PressAnyKey,
     ClickAnywhere,
+    PressNotice,
+    OpenMenu,
     ZoomOrScroll,
     Resize,
     Restart,
@@ -68,10 +79,12 @@ constexpr struct
     unsigned share;
 } acts[] = {
     {Act::AddCard, "AddCard", 4},
-    {Act::AddStatement, "AddStatement", 8},
-    {Act::OpenEditor, "OpenEditor", 7},
+    {Act::AddStatement, "AddStatement", 6},
+    {Act::PressAdd, "PressAdd", 5},
+    {Act::OpenEditor, "OpenEditor", 5},
+    {Act::DoubleClick, "DoubleClick", 4},
     {Act::TypeInEditor, "TypeInEditor", 16},
-    {Act::Confirm, "Confirm", 14},
+    {Act::Confirm, "Confirm", 12},
     {Act::Cancel, "Cancel", 2},
     {Act::Delete, "Delete", 3},
     {Act::Undo, "Undo", 9},
@@ -80,7 +93,9 @@ constexpr struct
     {Act::SelectStatement, "SelectStatement", 7},
     {Act::SelectCard, "SelectCard", 4},
     {Act::PressAnyKey, "PressAnyKey", 7},
-    {Act::ClickAnywhere, "ClickAnywhere", 6},
+    {Act::ClickAnywhere, "ClickAnywhere", 4},
+    {Act::PressNotice, "PressNotice", 4},
+    {Act::OpenMenu, "OpenMenu", 1},
     {Act::ZoomOrScroll, "ZoomOrScroll", 3},
     {Act::Resize, "Resize", 1},
     {Act::Restart, "Restart", 1},
@@ -139,6 +154,11 @@ public:
         const auto outcomes = perform(step.act, before);
         settle();
         compare(outcomes);
+        checkWindow();
+        if (step.act != Act::TypeInEditor && step.act != Act::PressAnyKey &&
+            step.act != Act::ClickAnywhere && step.act != Act::Restart) {
+            checkTyping(before);
+        }
     }
 
 private:
@@ -151,6 +171,9 @@ private:
         const NSManagedObject* cardOfMonths = nullptr;
         std::optional<PlainCard> card;
         const NSManagedObject* originalCard = nullptr;
+        CVPopoverController::TypedTexts typedForStatement;
+        CVPopoverController::TypedTexts typedForCard;
+        PlainRecords records;
     };
     /// What may have become of the records: a change of this name that makes them these. Where a
     /// record is new, it is not known yet under what name it stands: it is null.
@@ -223,20 +246,23 @@ private:
     Editors editors()
     {
         Editors result;
+        result.records = m_model.now;
         const auto& statementEditor = controller().statementPopoverController();
         if (controller().statementPopover() && statementEditor.statement()) {
             result.statement = PlainStatement::of(*statementEditor.statement());
             result.statement->date = statementEditor.date();
             result.originalStatement = statementEditor.originalStatement();
+            result.typedForStatement = statementEditor.typedTexts();
             result.cardOfMonths = statementEditor.card();
             result.statement->card = statementEditor.originalStatement()
                                          ? statementEditor.originalStatement()->card()
-                                         : controller().cardForNewStatement();
+                                         : statementEditor.card();
         }
         const auto& cardEditor = controller().cardPopoverController();
         if (controller().cardPopover() && cardEditor.card()) {
             result.card = PlainCard::of(*cardEditor.card());
             result.originalCard = cardEditor.originalCard();
+            result.typedForCard = cardEditor.typedTexts();
         }
         return result;
     }
@@ -292,6 +318,12 @@ private:
         case Act::AddStatement:
             command("addStatement");
             return {nothing};
+        case Act::PressAdd:
+            pressAdd();
+            return {nothing};
+        case Act::DoubleClick:
+            doubleClick();
+            return {{m_model.now, QString()}};
         case Act::OpenEditor:
             command("getSelectedCardInfo");
             return {nothing};
@@ -334,6 +366,12 @@ private:
         case Act::ClickAnywhere:
             clickAnywhere();
             return {{m_model.now, QString()}};
+        case Act::PressNotice:
+            pressNotice();
+            return {{m_model.now, QString()}};
+        case Act::OpenMenu:
+            openMenu();
+            return {nothing};
         case Act::ZoomOrScroll:
             zoomOrScroll();
             return {nothing};
@@ -511,8 +549,11 @@ private:
     void undoOrRedo(bool isUndo)
     {
         const bool canDo = isUndo ? m_model.canUndo() : m_model.canRedo();
+        const auto* const field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
         if (QApplication::activePopupWidget() || below(2) == 0) {
             command(isUndo ? "undo" : "redo");
+        } else if (field && (field->isUndoAvailable() || field->isRedoAvailable())) {
+            return;
         } else {
             press(Qt::Key_Z,
                   isUndo ? Qt::ControlModifier : Qt::ControlModifier | Qt::ShiftModifier);
@@ -558,16 +599,19 @@ private:
         press(key.key, key.modifiers);
     }
 
-    /// Once or twice. What the press did is settled before the release, as it is for a person.
     void clickAnywhere()
     {
         const int top = window().menuBar()->height();
         const auto any = [this](int length) {
             return static_cast<int>(below(static_cast<unsigned>(length)));
         };
-        const QPoint point(any(window().width()), top + any(window().height() - top));
+        click({any(window().width()), top + any(window().height() - top)}, below(3) == 0 ? 2U : 1U);
+    }
+    /// What a press did is settled before the release, as it is for a person.
+    void click(QPoint point, unsigned clicks)
+    {
         auto* const handle = window().windowHandle();
-        for (auto clicks = below(3) == 0 ? 2U : 1U; clicks > 0; --clicks) {
+        for (; clicks > 0; --clicks) {
             const auto outcomes = anything(editors());
             QTest::mousePress(handle, Qt::LeftButton, {}, point);
             settle();
@@ -577,6 +621,129 @@ private:
             settle();
             compare(outcomesOfRelease);
         }
+    }
+
+    template <typename Widget>
+    Widget& find(const char* name)
+    {
+        return *window().findChild<Widget*>(QLatin1String(name));
+    }
+
+    /// The "+" of a row in view, once, or two of them within one event.
+    void pressAdd()
+    {
+        auto& list = find<CVCardTableView>("cardsTableView");
+        for (auto presses = below(4) == 0 ? 2U : 1U; presses > 0; --presses) {
+            auto* const row = list.rowView(static_cast<int>(below(4)));
+            if (row && row->cellView().addStatementButton().isEnabled()) {
+                row->cellView().addStatementButton().click();
+            }
+        }
+    }
+    /// A row of the list, or a dot, as far as it is in view and nothing lies over it.
+    void doubleClick()
+    {
+        auto& list = find<CVCardTableView>("cardsTableView");
+        auto& timeline = find<CVTimelineTableView>("timelineTableView");
+        RowTableView* table = &list;
+        auto place = list.rectOfRow(static_cast<int>(below(4))).topLeft() + QPoint(20, 20);
+        if (below(2) == 0 && !m_model.now.statements.empty()) {
+            const auto chosen =
+                std::next(m_model.now.statements.begin(),
+                          below(static_cast<unsigned>(m_model.now.statements.size())));
+            const auto& statement = static_cast<const CVStatement&>(*chosen->first);
+            const auto rect = timeline.rowForCard(statement.card())
+                                  ? timeline.rectForStatement(statement)
+                                  : std::nullopt;
+            if (!rect) {
+                return;
+            }
+            table = &timeline;
+            place = rect->center().toPoint();
+        }
+        if (table->visibleRect().contains(place)) {
+            click(table->mapTo(&window(), place), 2);
+        }
+    }
+    void pressNotice()
+    {
+        auto& notice = find<NoticeBar>("noticeBar");
+        auto* const button = notice.findChild<FormButton*>();
+        if (!notice.isShowingNotice() || below(4) == 0 || button->isHidden()) {
+            notice.findChild<DismissButton*>()->click();
+            require(!notice.isShowingNotice(), "a dismissed notice stays");
+            return;
+        }
+        const auto title = button->text();
+        button->click();
+        if (title == QStringLiteral("Undo")) {
+            m_model.undo();
+        } else if (title == QStringLiteral("Redo")) {
+            m_model.redo();
+        } else {
+            require(title == QStringLiteral("Continue"), "a button of no known use");
+            const auto now = editors();
+            require(!now.typedForStatement.empty() || !now.typedForCard.empty(),
+                    "there is nothing to go on with");
+        }
+    }
+    void openMenu()
+    {
+        const auto menus = window().menuBar()->actions();
+        auto* const menu = menus.at(below(static_cast<unsigned>(menus.size())));
+        const auto before = editors();
+        click(
+            window().menuBar()->mapTo(&window(), window().menuBar()->actionGeometry(menu).center()),
+            1);
+        while (auto* const popup = QApplication::activePopupWidget()) {
+            popup->close();
+        }
+        const auto now = editors();
+        require(now.statement == before.statement && now.card == before.card,
+                "a menu closed an editor");
+    }
+
+    /// An open editor stands at its record, and what is selected is there.
+    void checkWindow()
+    {
+        for (auto* const popover : {controller().statementPopover(), controller().cardPopover()}) {
+            const auto place =
+                popover ? controller().popoverWillReposition(*popover) : std::nullopt;
+            require(!popover || (place && popover->positioningRect() == place->rect),
+                    "an editor stands elsewhere than its record");
+        }
+        const auto open = editors();
+        require(!open.originalStatement ||
+                    (m_model.now.statements.contains(open.originalStatement) &&
+                     open.originalStatement != nullptr),
+                "an editor is open for a statement that is gone");
+        require(!open.cardOfMonths || m_model.now.cards.contains(open.cardOfMonths),
+                "an editor is open for a card that is gone");
+        require(!open.originalCard || m_model.now.cards.contains(open.originalCard),
+                "an editor is open for a card that is gone");
+        if (0) require(find<CVTimelineTableView>("timelineTableView").selectedRow() ==
+                    controller().selectedRow(),
+                "another band is highlighted than the list has selected");
+        require(!controller().selectedStatement() ||
+                    m_model.now.statements.contains(controller().selectedStatement()),
+                "a statement is selected that is gone");
+    }
+    /// What was typed is still there, is a record now, or the window says where it went.
+    void checkTyping(const Editors& before)
+    {
+        const auto now = editors();
+        const bool isTold = find<NoticeBar>("noticeBar").isShowingNotice();
+        const bool isWritten = now.records != before.records;
+        const bool hasStatement = now.statement &&
+                                  now.originalStatement == before.originalStatement &&
+                                  now.cardOfMonths == before.cardOfMonths;
+        require(before.typedForStatement.empty() || isTold || isWritten ||
+                    (hasStatement && now.typedForStatement.size() == before.typedForStatement.size()),
+                "what was typed for a statement is gone without a word");
+        const bool hasCard = now.card && now.originalCard == before.originalCard;
+        require(before.typedForCard.empty() || isTold || isWritten ||
+                    (hasCard && now.typedForCard.size() == before.typedForCard.size()),
+                "what was typed for a card is gone without a word");
     }
 
     void zoomOrScroll()
