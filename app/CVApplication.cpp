@@ -9,6 +9,7 @@
 #include <QFontDatabase>
 #include <QIcon>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMetaMethod>
@@ -213,9 +214,9 @@ bool CVApplication::notify(QObject* receiver, QEvent* event)
                 validateActions(*window);
             }
         }
-        if (isUndoOrRedoKey(*event)) {
-            // Fields have an undo of their own for what is typed in them. Not offered to them, the
-            // key reaches the window's action; left over from that, it is nobody's.
+        if (isWindowsUndoOrRedoKey(*event)) {
+            // A field would take the key even with nothing to take back. Not offered to it, the key
+            // reaches the window's action; left over from that, it is nobody's.
             event->setAccepted(event->type() == QEvent::KeyPress);
             return true;
         }
@@ -249,12 +250,19 @@ bool CVApplication::isUndoOrRedo(const QByteArray& action)
     return action == "undo" || action == "redo";
 }
 
-bool CVApplication::isUndoOrRedoKey(const QEvent& event)
+bool CVApplication::isWindowsUndoOrRedoKey(const QEvent& event)
 {
     if (event.type() != QEvent::ShortcutOverride && event.type() != QEvent::KeyPress) {
         return false;
     }
     const auto& key = static_cast<const QKeyEvent&>(event);
-    return (key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo)) &&
-           !activeModalWidget() && !activePopupWidget() && controllerOf(activeWindow());
+    const bool isUndo = key.matches(QKeySequence::Undo);
+    if (!isUndo && !key.matches(QKeySequence::Redo)) {
+        return false;
+    }
+    // A field that is read-only has neither.
+    const auto* const field = qobject_cast<const QLineEdit*>(focusWidget());
+    const bool isFields = field && (isUndo ? field->isUndoAvailable() : field->isRedoAvailable());
+    return !isFields && !activeModalWidget() && !activePopupWidget() &&
+           controllerOf(activeWindow());
 }

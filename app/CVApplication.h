@@ -15,7 +15,8 @@ class QKeyEvent;
 /// that has such a slot: of the widget with the focus, its parents up to the window, the window's
 /// delegate, that of the sender's window, the application, and the application's delegate. While no
 /// window is active, the sender's window is asked. Undo and redo are the exception:
-/// while the main window is active they go to its controller, whatever has the focus.
+/// while the main window is active they go to its controller, whatever has the focus. Their keys
+/// are the field's that has the focus, as long as there is typing in it to take back or do again.
 class CVApplication : public QApplication
 {
     Q_OBJECT
@@ -60,8 +61,8 @@ Q_SIGNALS:
 private:
     void validateActions(const CVMainWindow& window) const;
     static bool isUndoOrRedo(const QByteArray& action);
-    /// Whether a key event is the undo or redo key on its way to a field of the main window.
-    static bool isUndoOrRedoKey(const QEvent& event);
+    /// Whether a key event is the undo or redo key, pressed in the main window and meant for it.
+    static bool isWindowsUndoOrRedoKey(const QEvent& event);
 
     Translation m_translation;
     /// The application's.

@@ -5,8 +5,8 @@
 
 /// A one-line text field with a thin rounded border, which glows while the field has the focus.
 ///
-/// What is typed can be marked as invalid, with the reason. Undoing is the window's affair, so the
-/// context menu does not offer it.
+/// What is typed can be marked as invalid, with the reason. Undo in menus is the window's affair,
+/// so the context menu does not offer it.
 class StyledTextField : public QLineEdit
 {
     Q_OBJECT

@@ -42,18 +42,35 @@ protected:
 
 } // namespace
 
-TEST_F(CVApplicationTest, undoAndRedoKeysReachTheWindowWhateverHasTheFocus)
+TEST_F(CVApplicationTest, undoAndRedoKeysAreTheFieldsWhileItHasTypingToTakeBackAndElseTheWindows)
 {
+    const auto undo = Qt::KeyboardModifiers(Qt::ControlModifier);
+    const auto redo = undo | Qt::ShiftModifier;
     QLineEdit field(&window());
     field.show();
     field.setFocus();
     QTest::keyClicks(&field, QStringLiteral("12"));
-    QTest::keyClick(&field, Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(cards(), 0);
+    struct Step
+    {
+        Qt::KeyboardModifiers key;
+        QString text;
+        std::size_t cards;
+    };
+    for (const auto& step :
+         {Step{undo, QString(), 1}, Step{undo, QString(), 0}, Step{redo, QStringLiteral("12"), 0},
+          Step{redo, QStringLiteral("12"), 1}}) {
+        QTest::keyClick(window().windowHandle(), Qt::Key_Z, step.key);
+        EXPECT_EQ(field.text(), step.text);
+        EXPECT_EQ(cards(), step.cards);
+    }
+    window().findChild<QAction*>(QStringLiteral("undo"))->trigger();
+    EXPECT_EQ(cards(), 0) << "the menu's is always the window's";
     EXPECT_EQ(field.text(), QStringLiteral("12"));
-    QTest::keyClick(&field, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    field.setReadOnly(true);
+    QTest::keyClick(window().windowHandle(), Qt::Key_Z, redo);
     EXPECT_EQ(cards(), 1);
-    EXPECT_EQ(field.text(), QStringLiteral("12"));
+    QTest::keyClick(window().windowHandle(), Qt::Key_Z, undo);
+    EXPECT_EQ(cards(), 0);
 }
 
 TEST_F(CVApplicationTest, aDialogKeepsItsOwnUndoKey)

@@ -555,8 +555,14 @@ private:
         } else if (field && (field->isUndoAvailable() || field->isRedoAvailable())) {
             return;
         } else {
+            const auto* const field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+            const bool isFields =
+                field && (isUndo ? field->isUndoAvailable() : field->isRedoAvailable());
             press(Qt::Key_Z,
                   isUndo ? Qt::ControlModifier : Qt::ControlModifier | Qt::ShiftModifier);
+            if (isFields) {
+                return;
+            }
         }
         isUndo ? m_model.undo() : m_model.redo();
         require(!canDo || !context().hasChanges(), "undo was not saved");

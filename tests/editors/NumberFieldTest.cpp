@@ -80,6 +80,22 @@ TEST_F(NumberFieldTest, AmountsAreShownInTheirCurrencyAndKeptAsTyped)
     EXPECT_EQ(field.text(), QString());
 }
 
+TEST_F(NumberFieldTest, TypingThatIsTakenBackLeavesTheValueThatWasShown)
+{
+    field.setCurrency(QStringLiteral("GBP"));
+    field.setNumber(NSDecimalNumber::fromText("12.3"));
+    const auto shown = field.text();
+    type(field, QStringLiteral("7"));
+    EXPECT_EQ(numberIn(field), "7");
+    field.undo();
+    EXPECT_EQ(field.text(), shown);
+    EXPECT_EQ(numberIn(field), "12.3");
+    field.redo();
+    EXPECT_EQ(numberIn(field), "7");
+    type(field, shown);
+    EXPECT_EQ(numberIn(field), "12.30") << "typed by hand, it is what it says";
+}
+
 TEST_F(NumberFieldTest, ATextThatIsNoNumberIsMarkedAndKeepsTheFocusInItsForm)
 {
     type(field, u"12 apples"_qs);
