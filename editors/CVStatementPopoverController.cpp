@@ -236,7 +236,7 @@ QString CVStatementPopoverController::lineText() const
     if (!m_statement || !isReadable) {
         return {};
     }
-    if (const auto correction = correctionText(); !correction.isEmpty()) {
+    if (auto correction = correctionText(); !correction.isEmpty()) {
         return correction;
     }
     return DebtForecast::formattedForecast(DebtForecast::numberOfPaymentsToClear(*m_statement),

@@ -239,7 +239,7 @@ bool isGrouped(const Groups& groups)
 /// What the last separator of a number marks.
 struct LastMark
 {
-    bool isOfDecimals;
+    bool isOfDecimals = false;
     /// Whether it could be the other as well, were it not for the locale.
     bool isAmbiguous = false;
     bool isOfLocale = true;
@@ -250,7 +250,7 @@ LastMark lastMark(const Groups& groups, Kind kind)
     const auto& separators = groups.separators;
     if (separators.empty() || !canMarkDecimals(separators.back()) ||
         std::ranges::count(separators, separators.back()) > 1) {
-        return {.isOfDecimals = false};
+        return {};
     }
     if (separators.size() > 1 || kind == Kind::Rate || !isGrouped(groups)) {
         return {.isOfDecimals = true};
