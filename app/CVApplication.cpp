@@ -260,9 +260,11 @@ bool CVApplication::isWindowsUndoOrRedoKey(const QEvent& event)
     if (!isUndo && !key.matches(QKeySequence::Redo)) {
         return false;
     }
-    // A field that is read-only has neither.
+    // A field that is read-only has neither. One with typing to take back keeps both keys: who goes
+    // one too far in it means the field.
     const auto* const field = qobject_cast<const QLineEdit*>(focusWidget());
-    const bool isFields = field && (isUndo ? field->isUndoAvailable() : field->isRedoAvailable());
+    const bool isFields =
+        field && (field->isUndoAvailable() || (!isUndo && field->isRedoAvailable()));
     return !isFields && !activeModalWidget() && !activePopupWidget() &&
            controllerOf(activeWindow());
 }

@@ -156,7 +156,8 @@ public:
         compare(outcomes);
         checkWindow();
         if (step.act != Act::TypeInEditor && step.act != Act::PressAnyKey &&
-            step.act != Act::ClickAnywhere && step.act != Act::Restart) {
+            step.act != Act::ClickAnywhere && step.act != Act::Restart &&
+            !std::exchange(m_wasTypingTakenBack, false)) {
             checkTyping(before);
         }
     }
@@ -552,15 +553,13 @@ private:
         const auto* const field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
         if (QApplication::activePopupWidget() || below(2) == 0) {
             command(isUndo ? "undo" : "redo");
-        } else if (field && (field->isUndoAvailable() || field->isRedoAvailable())) {
-            return;
         } else {
-            const auto* const field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
             const bool isFields =
-                field && (isUndo ? field->isUndoAvailable() : field->isRedoAvailable());
+                field && (field->isUndoAvailable() || (!isUndo && field->isRedoAvailable()));
             press(Qt::Key_Z,
                   isUndo ? Qt::ControlModifier : Qt::ControlModifier | Qt::ShiftModifier);
             if (isFields) {
+                m_wasTypingTakenBack = true;
                 return;
             }
         }
@@ -838,6 +837,7 @@ private:
     std::mt19937 m_chance;
     PlainModel m_model;
     PlainRecords m_checked;
+    bool m_wasTypingTakenBack = false;
     std::unique_ptr<Corvane_AppDelegate> m_delegate;
 };
 
