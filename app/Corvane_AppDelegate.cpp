@@ -189,14 +189,21 @@ Corvane_AppDelegate::TerminateReply Corvane_AppDelegate::applicationShouldTermin
     try {
         m_managedObjectContext->save();
     } catch (const NSError& error) {
-        if (m_alerts.presentError(error)) {
+        const AlertPresenter::Recovery recovery = {tr("Try Again"), [this] {
+                                                       m_managedObjectContext->save();
+                                                   }};
+        // Whichever button answers the alert, the program quits: the person has been warned.
+        const bool mayQuit =
+            m_alerts.presentError(error, recovery)
+                ? !m_managedObjectContext->hasChanges()
+                : m_alerts.runModalAlert(
+                      {tr("Could not save changes while quitting. Quit anyway?"),
+                       tr("Quitting now will lose any changes you have made since the last "
+                          "successful save"),
+                       {tr("Quit anyway"), tr("Cancel")}}) != 0;
+        if (!mayQuit) {
             return TerminateReply::Cancel;
         }
-        // Whichever button answers, the program quits: the person has been warned.
-        m_alerts.runModalAlert(
-            {tr("Could not save changes while quitting. Quit anyway?"),
-             tr("Quitting now will lose any changes you have made since the last successful save"),
-             {tr("Quit anyway"), tr("Cancel")}});
     }
     MagicalRecordHelpers::cleanUp();
     return TerminateReply::Now;

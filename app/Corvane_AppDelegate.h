@@ -56,7 +56,8 @@ public:
     MainWindowController* mainWindowController() const { return m_mainWindowController.get(); }
 
     void applicationDidFinishLaunching();
-    /// Saves what there is to save; asks the person what to do when that fails.
+    /// Saves what there is to save. When that fails, the person may try again, and is warned; the
+    /// program stays when they leave the warning without pressing a button.
     TerminateReply applicationShouldTerminate();
     bool applicationShouldTerminateAfterLastWindowClosed() const { return true; }
     bool applicationShouldHandleReopen() const { return true; }

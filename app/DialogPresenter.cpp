@@ -4,58 +4,85 @@
 #include "widgets/FormButton.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QMessageBox>
-#include <QPushButton>
 
 namespace {
 
-QMessageBox* activeBox(const QString& text, const QString& informativeText)
+/// A message box that can always be left, also without an answer. Qt's own lets a button stand for
+/// that, or does not let go.
+class AlertBox : public QMessageBox
 {
-    auto* const box = new QMessageBox(QApplication::activeWindow());
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setIcon(QMessageBox::Warning);
-    box->setWindowTitle(QApplication::applicationDisplayName());
-    box->setText(text);
-    box->setInformativeText(informativeText);
-    box->setTextFormat(Qt::PlainText);
-    return box;
-}
+public:
+    using QMessageBox::QMessageBox;
 
-QPushButton* addButton(QMessageBox& box, const QString& title, QMessageBox::ButtonRole role)
+protected:
+    void closeEvent(QCloseEvent* /*event*/) override { reject(); }
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if (event->matches(QKeySequence::Cancel)) {
+            reject();
+        } else {
+            QMessageBox::keyPressEvent(event);
+        }
+    }
+};
+
+QString okTitle()
 {
-    auto* const button = new FormButton(&box);
-    button->setText(title);
-    box.addButton(button, role);
-    return button;
+    return QApplication::translate("DialogPresenter", "OK");
 }
 
 } // namespace
 
-bool DialogPresenter::presentError(const NSError& error)
+void DialogPresenter::presentError(const NSError& error)
 {
-    auto* const box = activeBox(error.localizedDescription(), error.localizedFailureReason());
-    addButton(*box, QApplication::translate("DialogPresenter", "OK"), QMessageBox::AcceptRole);
-    box->exec();
-    return false;
+    runModalAlert({error.localizedDescription(), error.localizedFailureReason(), {okTitle()}});
+}
+
+bool DialogPresenter::presentError(const NSError& error, const Recovery& recovery)
+{
+    for (auto latest = error;;) {
+        const int pressed = runModalAlert({latest.localizedDescription(),
+                                           latest.localizedFailureReason(),
+                                           {recovery.title, okTitle()}});
+        if (pressed != firstButton) {
+            return false;
+        }
+        try {
+            recovery.attempt();
+            return true;
+        } catch (const NSError& next) {
+            latest = next;
+        }
+    }
 }
 
 int DialogPresenter::runModalAlert(const Alert& alert)
 {
-    auto* const box = activeBox(alert.message, alert.informativeText);
-    int pressed = firstButton + static_cast<int>(alert.buttonTitles.size()) - 1;
-    for (qsizetype i = 0; i < alert.buttonTitles.size(); ++i) {
-        const bool isLast = i + 1 == alert.buttonTitles.size();
-        auto* const button = addButton(*box, alert.buttonTitles[i],
-                                       isLast ? QMessageBox::RejectRole : QMessageBox::AcceptRole);
+    if (m_wasBrokenOff) {
+        return 0;
+    }
+    auto* const box = new AlertBox(QApplication::activeWindow());
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setIcon(QMessageBox::Warning);
+    box->setWindowTitle(QApplication::applicationDisplayName());
+    box->setText(alert.message);
+    box->setInformativeText(alert.informativeText);
+    box->setTextFormat(Qt::PlainText);
+    int pressed = 0;
+    for (int i = 0; i < alert.buttonTitles.size(); ++i) {
+        auto* const button = new FormButton(box);
+        button->setText(alert.buttonTitles[i]);
+        box->addButton(button, i == 0 ? QMessageBox::AcceptRole : QMessageBox::RejectRole);
         QObject::connect(button, &QPushButton::clicked, box,
-                         [&pressed, i] { pressed = firstButton + static_cast<int>(i); });
+                         [&pressed, i] { pressed = firstButton + i; });
         if (i == 0) {
             box->setDefaultButton(button);
         }
-        if (isLast) {
-            box->setEscapeButton(button);
-        }
     }
+    m_wasBrokenOff = true;
+    QObject::connect(box, &QDialog::finished, box, [this] { m_wasBrokenOff = false; });
     box->exec();
     return pressed;
 }

@@ -3,9 +3,14 @@
 #include "foundation/Log.h"
 #include "store/NSError.h"
 
-bool LogPresenter::presentError(const NSError& error)
+void LogPresenter::presentError(const NSError& error)
 {
     Log::line(error.description());
+}
+
+bool LogPresenter::presentError(const NSError& error, const Recovery& /*recovery*/)
+{
+    presentError(error);
     return false;
 }
 

@@ -7,6 +7,7 @@
 class LogPresenter : public AlertPresenter
 {
 public:
-    bool presentError(const NSError& error) override;
+    void presentError(const NSError& error) override;
+    bool presentError(const NSError& error, const Recovery& recovery) override;
     int runModalAlert(const Alert& alert) override;
 };

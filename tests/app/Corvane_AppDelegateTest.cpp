@@ -2,6 +2,7 @@
 
 #include "app/AboutBox.h"
 #include "app/AssertionFailure.h"
+#include "app/DialogPresenter.h"
 #include "app/StoreLock.h"
 #include "app/SupportDirectory.h"
 #include "foundation/Log.h"
@@ -14,17 +15,22 @@
 #include "tests/support/Person.h"
 #include "tests/support/ScopedVariable.h"
 
+#include <QApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QUrl>
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <optional>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -39,6 +45,40 @@ public:
 
 public Q_SLOTS:
     void open(const QUrl& url) { opened = url; }
+};
+
+/// Does something about each dialog that is shown, in turn.
+class AlertReader : public QObject
+{
+public:
+    using Act = std::function<void(QMessageBox&)>;
+
+    explicit AlertReader(std::vector<Act> acts)
+        : m_acts(std::move(acts))
+    {
+        qApp->installEventFilter(this);
+    }
+    static Act press(Qt::Key key)
+    {
+        return [key](QMessageBox& box) {
+            QTest::keyClick(&box, key);
+        };
+    }
+
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override
+    {
+        auto* const box = qobject_cast<QMessageBox*>(object);
+        if (box && event->type() == QEvent::Show) {
+            QMetaObject::invokeMethod(
+                box, [box, act = m_acts.at(m_shown++)] { act(*box); }, Qt::QueuedConnection);
+        }
+        return false;
+    }
+
+private:
+    std::vector<Act> m_acts;
+    std::size_t m_shown = 0;
 };
 
 class Corvane_AppDelegateTest : public testing::Test
@@ -60,6 +100,11 @@ protected:
         SQLite::Database(storePath().toStdString(), SQLite::OPEN_READWRITE)
             .exec("CREATE TRIGGER refuse BEFORE INSERT ON Card BEGIN"
                   " SELECT RAISE(ABORT, 'refused'); END");
+    }
+    void mendStore() const
+    {
+        SQLite::Database(storePath().toStdString(), SQLite::OPEN_READWRITE)
+            .exec("DROP TRIGGER refuse");
     }
 
     QTemporaryDir home;
@@ -152,10 +197,90 @@ TEST_F(Corvane_AppDelegateTest, quitsAfterEitherButtonWhenSavingFails)
                              "successful save"));
     EXPECT_EQ(person.alerts[0].buttonTitles,
               QStringList({QStringLiteral("Quit anyway"), QStringLiteral("Cancel")}));
+}
 
-    person.recovers = true;
+TEST_F(Corvane_AppDelegateTest, staysWhenThePersonLeavesTheWarningAndQuitsWhenTryingAgainSaves)
+{
+    insertCard();
+    breakStore();
+    person.button = 0;
     EXPECT_EQ(delegate.applicationShouldTerminate(), Corvane_AppDelegate::TerminateReply::Cancel);
-    EXPECT_EQ(person.alerts.size(), 2);
+    EXPECT_TRUE(delegate.managedObjectContext()->hasChanges());
+
+    person.recover = [this](const AlertPresenter::Recovery& recovery) {
+        EXPECT_EQ(recovery.title, QStringLiteral("Try Again"));
+        EXPECT_THROW(recovery.attempt(), NSError);
+        mendStore();
+        recovery.attempt();
+        return true;
+    };
+    EXPECT_EQ(delegate.applicationShouldTerminate(), Corvane_AppDelegate::TerminateReply::Now);
+    EXPECT_FALSE(delegate.managedObjectContext()->hasChanges());
+    EXPECT_EQ(person.alerts.size(), 1);
+    EXPECT_FALSE(NSPersistentStoreCoordinator::MR_defaultStoreCoordinator());
+}
+
+TEST_F(Corvane_AppDelegateTest, theSessionMayEndWhileTheErrorOrTheWarningIsInFront)
+{
+    insertCard();
+    breakStore();
+    for (const bool isWarning : {false, true}) {
+        DialogPresenter dialogs;
+        Corvane_AppDelegate asking(dialogs, UserDefaults::volatileDefaults(), directory());
+        asking.managedObjectContext()->insertNewObjectForEntityForName("Card");
+        const AlertReader::Act endSession = [&asking](QMessageBox&) {
+            asking.sessionWillEnd();
+            QCoreApplication::exit(0);
+        };
+        const AlertReader reader(isWarning
+                                     ? std::vector{AlertReader::press(Qt::Key_Escape), endSession}
+                                     : std::vector{endSession});
+        std::optional<Corvane_AppDelegate::TerminateReply> reply;
+        const Log::Collector log;
+        QMetaObject::invokeMethod(
+            &asking, [&] { reply = asking.applicationShouldTerminate(); }, Qt::QueuedConnection);
+        QCoreApplication::exec();
+        EXPECT_EQ(reply, Corvane_AppDelegate::TerminateReply::Cancel);
+        EXPECT_EQ(log.lines().size(), 1) << "the failed save, and no further dialog";
+        EXPECT_FALSE(QApplication::activeModalWidget());
+    }
+}
+
+TEST(DialogPresenter, answersNothingWhenItIsLeftWithoutAButton)
+{
+    DialogPresenter dialogs;
+    const auto answer = [&dialogs](const AlertReader::Act& act) {
+        const AlertReader reader({act});
+        return dialogs.runModalAlert({QStringLiteral("Quit?"),
+                                      QString(),
+                                      {QStringLiteral("Quit"), QStringLiteral("Cancel")}});
+    };
+    EXPECT_EQ(answer(AlertReader::press(Qt::Key_Escape)), 0);
+    EXPECT_EQ(answer([](QMessageBox& box) { box.close(); }), 0);
+    EXPECT_EQ(answer(AlertReader::press(Qt::Key_Return)), AlertPresenter::firstButton);
+    EXPECT_EQ(answer([](QMessageBox& box) { box.buttons().last()->click(); }),
+              AlertPresenter::firstButton + 1);
+}
+
+TEST(DialogPresenter, triesAgainUntilItSucceedsOrIsLeft)
+{
+    DialogPresenter dialogs;
+    int attempts = 0;
+    const auto present = [&](Qt::Key secondKey) {
+        attempts = 0;
+        const AlertReader reader(
+            {AlertReader::press(Qt::Key_Return), AlertReader::press(secondKey)});
+        const NSError error(QStringLiteral("test"), 1, ErrorText("Full"));
+        return dialogs.presentError(error, {QStringLiteral("Try Again"), [&] {
+                                                if (++attempts == 1) {
+                                                    throw error;
+                                                }
+                                            }});
+    };
+    EXPECT_TRUE(present(Qt::Key_Return));
+    EXPECT_EQ(attempts, 2);
+    EXPECT_FALSE(present(Qt::Key_Escape));
+    EXPECT_EQ(attempts, 1);
 }
 
 TEST_F(Corvane_AppDelegateTest, waitsForAnEditorThatCannotHandOverAndSavesAllTheSame)

@@ -137,7 +137,8 @@ std::string described(const Steps& steps)
 class NoAlerts : public AlertPresenter
 {
 public:
-    bool presentError(const NSError& error) override { throw error; }
+    void presentError(const NSError& error) override { throw error; }
+    bool presentError(const NSError& error, const Recovery& /*recovery*/) override { throw error; }
     int runModalAlert(const Alert& /*alert*/) override { throw std::runtime_error("an alert"); }
 };
 

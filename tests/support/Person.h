@@ -3,16 +3,18 @@
 #include "app/AlertPresenter.h"
 #include "store/NSError.h"
 
+#include <functional>
 #include <vector>
 
-/// A person who reads every alert and presses the button that the test says.
+/// A person who reads every alert, and does about it what the test says.
 class Person : public AlertPresenter
 {
 public:
-    bool presentError(const NSError& error) override
+    void presentError(const NSError& error) override { errors.push_back(error); }
+    bool presentError(const NSError& error, const Recovery& recovery) override
     {
-        errors.push_back(error);
-        return recovers;
+        presentError(error);
+        return recover(recovery);
     }
     int runModalAlert(const Alert& alert) override
     {
@@ -22,6 +24,9 @@ public:
 
     std::vector<NSError> errors;
     std::vector<Alert> alerts;
-    bool recovers = false;
+    /// Answers whether it succeeded.
+    std::function<bool(const Recovery&)> recover = [](const Recovery&) {
+        return false;
+    };
     int button = firstButton + 1;
 };
