@@ -142,7 +142,10 @@ void MainWindowController::addStatement(QObject* sender)
     if (!card || (m_statementEditor && m_statementEditor->target() == target)) {
         return;
     }
-    m_notice->withdraw();
+    // A second press within the event says nothing that the first one did not.
+    if (!m_cardOfComingStatement) {
+        m_notice->withdraw();
+    }
     dismissStatementPopover();
     m_ui->splitView->setPaneCollapsed(0, false);
     selectCardAndMakeVisible(*card);
