@@ -18,6 +18,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -197,7 +198,7 @@ void CVCardTimelineCell::drawWithFrame(QPainter& painter, const QRectF& frame,
         points.push_back(geometry.sortedStatementPoint(index));
     }
     painter.setPen(colors.colorWithKey("graph"));
-    drawGraphAtOffset(painter, frame, exposed, QPointF(), points,
+    drawGraphAtOffset(painter, geometry, exposed, QPointF(), points,
                       std::span(statements).subspan(range.first, points.size()));
 }
 
@@ -233,7 +234,7 @@ void CVCardTimelineCell::drawCapsule(QPainter& painter, const TimelineCapsule& c
                       shadowColor);
 }
 
-void CVCardTimelineCell::drawGraphAtOffset(QPainter& painter, const QRectF& frame,
+void CVCardTimelineCell::drawGraphAtOffset(QPainter& painter, const CardTimelineGeometry& geometry,
                                            const QRectF& exposed, const QPointF& offset,
                                            std::span<const std::optional<QPointF>> points,
                                            std::span<CVStatement* const> statements)
@@ -244,9 +245,9 @@ void CVCardTimelineCell::drawGraphAtOffset(QPainter& painter, const QRectF& fram
     const double ratio = DevicePixels::ratio(painter);
     const QRectF reached = exposed.adjusted(-graphReach, -graphReach, graphReach, graphReach);
     const QRectF drawable =
-        frame.adjusted(-farthestLine, -farthestLine, farthestLine, farthestLine);
+        geometry.frame().adjusted(-farthestLine, -farthestLine, farthestLine, farthestLine);
 
-    std::vector<QPointF> dots;
+    std::vector<std::pair<QPointF, const QImage*>> signs;
     std::vector<QRectF> rings;
     std::vector<QLineF> line;
     std::optional<QPointF> previous;
@@ -258,11 +259,16 @@ void CVCardTimelineCell::drawGraphAtOffset(QPainter& painter, const QRectF& fram
         const QRectF square = CardTimelineGeometry::rectForStatementPoint(*points[index] + offset);
         const QPointF corner = snapping.snappedRect(square).topLeft();
         const QPointF point = corner + (*points[index] + offset - square.topLeft());
-        if (reached.contains(point)) {
-            dots.push_back(corner * ratio);
+        const auto edge = geometry.edgeBefore(*points[index]);
+        const QRectF shown =
+            edge ? snapping.snappedRect(geometry.anchorRect(*points[index]).translated(offset))
+                 : QRectF(corner, square.size());
+        if (reached.contains(shown.center())) {
+            signs.emplace_back(shown.topLeft() * ratio, edge ? &m_pictures.mark(*edge, color, ratio)
+                                                             : &m_pictures.dot(color, ratio));
             if (m_delegate && m_delegate->timelineCellSelectStatement(*this, *statements[index])) {
                 rings.push_back(
-                    QRectF(corner, square.size())
+                    QRectF(shown.topLeft(), square.size())
                         .adjusted(-ringDistance, -ringDistance, ringDistance, ringDistance));
             }
         }
@@ -274,11 +280,10 @@ void CVCardTimelineCell::drawGraphAtOffset(QPainter& painter, const QRectF& fram
         previous = point;
     }
 
-    if (!dots.empty()) {
-        const auto& dot = m_pictures.dot(color, ratio);
+    if (!signs.empty()) {
         const DevicePixels pixels(painter);
-        for (const auto& corner : dots) {
-            painter.drawImage(corner, dot);
+        for (const auto& [corner, picture] : signs) {
+            painter.drawImage(corner, *picture);
         }
     }
     painter.setRenderHint(QPainter::Antialiasing);

@@ -12,6 +12,7 @@ class CVCard;
 class CVCardTimelineCellDelegate;
 class CVStatement;
 class CVTimelineData;
+class CardTimelineGeometry;
 class NSColorList;
 class NSManagedObjectContext;
 class QPainter;
@@ -48,8 +49,9 @@ public:
     void setBackdropOpaque(bool isOpaque) { m_isBackdropOpaque = isOpaque; }
 
     /// Draws the row in `frame`, in points, as far as it lies in `exposed`. Nothing is drawn
-    /// outside of `exposed`; within, a dot beyond its limit may lie below the frame. Nothing at all
-    /// is drawn for a card without statements.
+    /// outside of `exposed`; within, the line to a balance above its limit may lead below the
+    /// frame, at whose edge a mark stands for the dot. Nothing at all is drawn for a card without
+    /// statements.
     ///
     /// `axis` is the one calculated for a frame of the same width in the same paint event; without
     /// it, the cell calculates its own. Throws NSError when the store cannot be read; the painter
@@ -62,8 +64,9 @@ private:
     void drawCapsule(QPainter& painter, const TimelineCapsule& capsule, const QRectF& border,
                      const QRectF& exposed, const NSColorList& colors, const CVTimelineData& axis);
     /// In the colour of the painter's pen.
-    void drawGraphAtOffset(QPainter& painter, const QRectF& frame, const QRectF& exposed,
-                           const QPointF& offset, std::span<const std::optional<QPointF>> points,
+    void drawGraphAtOffset(QPainter& painter, const CardTimelineGeometry& geometry,
+                           const QRectF& exposed, const QPointF& offset,
+                           std::span<const std::optional<QPointF>> points,
                            std::span<CVStatement* const> statements);
 
     CVCard* m_card = nullptr;

@@ -9,7 +9,6 @@
 #include "timeline/AccessibleTimelineRow.h"
 #include "timeline/CVCardTimelineCellDelegate.h"
 #include "timeline/CVTimelineTableViewDelegate.h"
-#include "timeline/CardTimelineGeometry.h"
 #include "timeline/StatementText.h"
 
 #include <QHelpEvent>
@@ -94,6 +93,21 @@ std::optional<CardTimelineGeometry> CVTimelineTableView::geometryOfRow(int row) 
 
 std::optional<QRectF> CVTimelineTableView::rectForStatement(const CVStatement& statement) const
 {
+    const auto place = placeOfStatement(statement);
+    return place ? std::optional(CardTimelineGeometry::rectForStatementPoint(place->point))
+                 : std::nullopt;
+}
+
+std::optional<QRectF>
+CVTimelineTableView::anchorRectForStatement(const CVStatement& statement) const
+{
+    const auto place = placeOfStatement(statement);
+    return place ? std::optional(place->geometry.anchorRect(place->point)) : std::nullopt;
+}
+
+std::optional<CVTimelineTableView::Place>
+CVTimelineTableView::placeOfStatement(const CVStatement& statement) const
+{
     const auto* const card = statement.card();
     const auto row = rowForCard(card);
     const auto geometry = row ? geometryOfRow(*row) : std::nullopt;
@@ -110,8 +124,7 @@ std::optional<QRectF> CVTimelineTableView::rectForStatement(const CVStatement& s
     }
     const auto point =
         geometry->sortedStatementPoint(static_cast<std::size_t>(found - statements.begin()));
-    return point ? std::optional(CardTimelineGeometry::rectForStatementPoint(*point))
-                 : std::nullopt;
+    return point ? std::optional(Place{*geometry, *point}) : std::nullopt;
 }
 
 bool CVTimelineTableView::isStatementSelected(const CVStatement& statement) const
@@ -128,7 +141,7 @@ void CVTimelineTableView::selectedStatementDidChange(CVStatement* previous, CVSt
 void CVTimelineTableView::clickStatement(CVStatement& statement, int clickCount)
 {
     const auto row = rowForCard(statement.card());
-    const auto rect = row ? rectForStatement(statement) : std::nullopt;
+    const auto rect = row ? anchorRectForStatement(statement) : std::nullopt;
     if (!rect) {
         return;
     }
@@ -239,7 +252,7 @@ void CVTimelineTableView::mouseDown(QMouseEvent* event, int clickCount)
     // The row first, then the statement in it.
     RowTableView::mousePressEvent(event);
     const auto geometry = geometryOfRow(*row);
-    const auto hit = geometry ? geometry->hit(point) : std::nullopt;
+    const auto hit = geometry ? geometry->hitWithinReach(point) : std::nullopt;
     if (m_delegate) {
         m_delegate->timelineTableViewDidSelectStatement(*this, hit ? hit->statement : nullptr,
                                                         hit ? hit->point : QPointF(), clickCount);
@@ -250,11 +263,13 @@ void CVTimelineTableView::showToolTip(const QHelpEvent& event)
 {
     const auto row = rowAtPoint(event.pos());
     const auto geometry = row ? geometryOfRow(*row) : std::nullopt;
-    const auto hit = geometry ? geometry->hit(event.pos()) : std::nullopt;
+    const auto hit = geometry ? geometry->hitWithinReach(event.pos()) : std::nullopt;
     if (!hit) {
         QToolTip::hideText();
         return;
     }
+    constexpr double reach = CardTimelineGeometry::reach;
+    const QRectF area(hit->point - QPointF(reach, reach), QSizeF(2 * reach, 2 * reach));
     QToolTip::showText(event.globalPos(), StatementText::toolTip(*hit->statement), this,
-                       CardTimelineGeometry::rectForStatementPoint(hit->point).toAlignedRect());
+                       area.toAlignedRect());
 }

@@ -4,13 +4,13 @@
 #include "timeline/AccessibleStatementEvents.h"
 #include "timeline/CVCardTimelineCell.h"
 #include "timeline/CVTimelineData.h"
+#include "timeline/CardTimelineGeometry.h"
 #include "widgets/RowTableView.h"
 
 #include <QItemSelectionModel>
 
 #include <optional>
 
-class CardTimelineGeometry;
 class CVTimelineTableViewDelegate;
 class NSArrayController;
 class NSManagedObjectContext;
@@ -56,6 +56,9 @@ public:
     /// statement, or its card, is not on the timeline (which is logged), or it has no date. Throws
     /// NSError when the statements cannot be read.
     std::optional<QRectF> rectForStatement(const CVStatement& statement) const;
+    /// The square in which the statement is seen and reached: that of its dot, or of the mark that
+    /// stands for a dot beyond its row. Absent, logged and thrown as above.
+    std::optional<QRectF> anchorRectForStatement(const CVStatement& statement) const;
 
     /// As the cell delegate says.
     bool isStatementSelected(const CVStatement& statement) const;
@@ -86,6 +89,13 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    /// A statement's point, and the geometry of its row.
+    struct Place
+    {
+        CardTimelineGeometry geometry;
+        QPointF point;
+    };
+    std::optional<Place> placeOfStatement(const CVStatement& statement) const;
     void mouseDown(QMouseEvent* event, int clickCount);
     void showToolTip(const QHelpEvent& event);
 

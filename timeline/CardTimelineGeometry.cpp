@@ -5,6 +5,8 @@
 #include "model/CVStatement.h"
 #include "model/Calculations.h"
 
+#include <QLineF>
+
 #include <algorithm>
 #include <cmath>
 
@@ -12,6 +14,9 @@ namespace {
 
 /// From a dot's middle to the edges of its square.
 constexpr double dotRadius = 3.0;
+/// From an edge of the row to a mark: the space around the capsule, its border, and a point of air
+/// inside of it.
+constexpr double markInset = 5.0;
 /// What lies farther away than any screen reaches. It fits whole points as well.
 constexpr double farthest = 1e8;
 
@@ -153,6 +158,26 @@ QRectF CardTimelineGeometry::rectForStatementPoint(const QPointF& point)
     return {x - dotRadius, y - dotRadius, 2 * dotRadius, 2 * dotRadius};
 }
 
+std::optional<NSRectEdge> CardTimelineGeometry::edgeBefore(const QPointF& point) const
+{
+    if (point.y() + dotRadius > m_frame.bottom()) {
+        return NSRectEdge::MaxY;
+    }
+    return point.y() - dotRadius < m_frame.top() ? std::optional(NSRectEdge::MinY) : std::nullopt;
+}
+
+QRectF CardTimelineGeometry::anchorRect(const QPointF& point) const
+{
+    const auto edge = edgeBefore(point);
+    if (!edge) {
+        return rectForStatementPoint(point);
+    }
+    constexpr double distance = markInset + dotRadius;
+    return rectForStatementPoint({point.x(), *edge == NSRectEdge::MinY
+                                                 ? m_frame.top() + distance
+                                                 : m_frame.bottom() - distance});
+}
+
 std::optional<CardTimelineGeometry::Hit> CardTimelineGeometry::hit(const QPointF& position) const
 {
     for (std::size_t index = m_firstDated; index < m_statements.size(); ++index) {
@@ -165,4 +190,25 @@ std::optional<CardTimelineGeometry::Hit> CardTimelineGeometry::hit(const QPointF
         }
     }
     return std::nullopt;
+}
+
+std::optional<CardTimelineGeometry::Hit>
+CardTimelineGeometry::hitWithinReach(const QPointF& position) const
+{
+    if (const auto exact = hit(position)) {
+        return exact;
+    }
+    std::optional<Hit> nearest;
+    double nearestDistance = reach;
+    const auto range = statementsBetween(position.x() - reach, position.x() + reach);
+    for (auto index = range.first; index < range.end; ++index) {
+        const auto point = sortedStatementPoint(index);
+        const auto middle = point ? anchorRect(*point).center() : QPointF();
+        const double distance = QLineF(middle, position).length();
+        if (point && (nearest ? distance < nearestDistance : distance <= nearestDistance)) {
+            nearest = {m_statements[index], middle};
+            nearestDistance = distance;
+        }
+    }
+    return nearest;
 }

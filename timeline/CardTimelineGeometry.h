@@ -1,6 +1,7 @@
 #pragma once
 
 #include "timeline/TimelineScale.h"
+#include "widgets/NSRectEdge.h"
 
 #include <QPointF>
 #include <QRectF>
@@ -34,9 +35,15 @@ public:
         QPointF point;
     };
 
+    /// How far a hand may miss what it means, in points.
+    static constexpr double reach = 8.0;
+
     /// Reads the card's statements; throws NSError when that fails.
     CardTimelineGeometry(const TimelineScale& scale, const CVCard& card, const QRectF& frame);
     CardTimelineGeometry(NSManagedObjectContext& context, const CVCard& card, const QRectF& frame);
+
+    /// The row.
+    const QRectF& frame() const { return m_frame; }
 
     /// The statements of the card as of its sortedStatements().
     const std::vector<CVStatement*>& sortedStatements() const { return m_statements; }
@@ -67,9 +74,19 @@ public:
     /// The square of the dot at a statement's point. A point beyond all screens is drawn nearer, so
     /// that its square can be counted in whole points too.
     static QRectF rectForStatementPoint(const QPointF& point);
+    /// The edge of the row, upper or lower, beyond which a dot at this point would lie, in part at
+    /// least: the balance is below zero or above its limit. There, a mark at the row's edge stands
+    /// for the dot. Absent for a dot within the row.
+    std::optional<NSRectEdge> edgeBefore(const QPointF& point) const;
+    /// Where a statement at this point is seen: the square of its dot, or that of its mark.
+    QRectF anchorRect(const QPointF& point) const;
+
     /// The first statement in order whose dot's square holds `position`; left and top edges belong
     /// to a square, right and bottom ones do not. Absent when none does.
     std::optional<Hit> hit(const QPointF& position) const;
+    /// The same, or else the statement whose dot or mark is nearest, with the middle of that, if it
+    /// is within reach; of two as near, the earlier.
+    std::optional<Hit> hitWithinReach(const QPointF& position) const;
 
 private:
     std::optional<double> xOffset(std::optional<Instant> date) const;

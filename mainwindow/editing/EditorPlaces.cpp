@@ -26,7 +26,7 @@ std::optional<PopoverAnchor> placeInRow(CVCardTableView& cards, const CVCard* ca
 std::optional<PopoverAnchor> placeOfDot(CVTimelineTableView& timeline, const CVStatement& statement)
 {
     try {
-        const auto rect = timeline.rectForStatement(statement);
+        const auto rect = timeline.anchorRectForStatement(statement);
         return rect ? std::optional(
                           PopoverAnchor{&timeline, rect->toAlignedRect(), NSRectEdge::MaxY})
                     : std::nullopt;

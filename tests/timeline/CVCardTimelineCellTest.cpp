@@ -189,6 +189,34 @@ TEST_F(CVCardTimelineCellTest, RingsTheSelectedStatementOnly)
     }
 }
 
+TEST_F(CVCardTimelineCellTest, MarksADotThatLiesBeyondTheRowAtTheRowsEdge)
+{
+    m_store.insertStatement(&m_other, utc(2012, 12, 1));
+    m_store.insertStatement(&m_other, utc(2014, 3, 1));
+    // Alone, so that no line leads there.
+    m_selected = &m_store.insertStatement(&m_card, utc(2013, 6, 15), {"100", "1000"});
+    m_store.save();
+    for (const auto* const balance : {"1900", "-900"}) {
+        m_card.sortedStatements()[0]->setBalance(NSDecimalNumber::fromText(balance));
+        const bool isAbove = balance[0] == '-';
+        const auto graph = CVAdditions::cvColorsWithCreditUsageRatio(isAbove ? -0.9 : 1.9, false)
+                               .colorWithKey("graph");
+        const CardTimelineGeometry geometry(m_store.context(), m_card, frame);
+        const auto middle = geometry.anchorRect(pointOf(0)).center();
+        for (const double ratio : {1.0, 2.0}) {
+            const QImage image = drawn(ratio);
+            const auto isDrawnAt = [&](double x, double y) {
+                const QPointF place = (middle + QPointF(x, isAbove ? -y : y)) * ratio;
+                return difference(image.pixelColor(int(place.x()), int(place.y())), graph) < 60;
+            };
+            EXPECT_TRUE(isDrawnAt(0, 0)) << balance;
+            EXPECT_TRUE(isDrawnAt(-1.5, -2)) << "broad at its back";
+            EXPECT_FALSE(isDrawnAt(-1.8, 1.8)) << "it points out of the row";
+            EXPECT_TRUE(isDrawnAt(-5.3, 0)) << "the ring";
+        }
+    }
+}
+
 TEST_F(CVCardTimelineCellTest, PaintsTheSameInPartsAsAtOnceAndNothingElsewhere)
 {
     insertStatements();

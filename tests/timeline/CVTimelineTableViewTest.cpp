@@ -142,14 +142,22 @@ TEST_F(CVTimelineTableViewTest, aPressReportsTheRowAndThenTheStatementUnderIt)
     EXPECT_EQ(delegate.rows.back(), 1);
     first.setName(QStringLiteral("Aurora"));
     store.context().processPendingChanges();
-    for (const auto& beside :
-         {square.topRight(), square.bottomLeft(), square.topLeft() - QPointF(0.5, 0)}) {
-        press(beside);
-        EXPECT_EQ(delegate.clicks.back(), (Delegate::Click{nullptr, QPointF(), 1}));
-    }
+    press(square.topRight() + QPointF(4, 0));
+    EXPECT_EQ(delegate.clicks.back(), (Delegate::Click{&early, square.center(), 1}))
+        << "near enough";
+    press(square.topRight() + QPointF(6, 0));
+    EXPECT_EQ(delegate.clicks.back(), (Delegate::Click{nullptr, QPointF(), 1}));
     press(table().rectForStatement(laterTwin).value().topLeft() + QPointF(1, 1));
     EXPECT_EQ(delegate.clicks.back().statement, &twin) << "the earlier of two that overlap";
     EXPECT_EQ(delegate.rows.back(), 1);
+
+    last.setBalance(NSDecimalNumber::fromText("1900"));
+    const auto mark = table().anchorRectForStatement(last).value();
+    EXPECT_TRUE(QRectF(table().rectOfRow(0)).contains(mark));
+    EXPECT_FALSE(QRectF(table().rectOfRow(0)).contains(table().rectForStatement(last).value()));
+    press(mark.center(), QEvent::MouseButtonDblClick);
+    EXPECT_EQ(delegate.clicks.back(), (Delegate::Click{&last, mark.center(), 2}));
+    press(table().rectForStatement(laterTwin).value().topLeft() + QPointF(1, 1));
 
     const auto rows = delegate.rows.size();
     press({300, 300});

@@ -147,3 +147,36 @@ TEST_F(CardTimelineGeometryTest, HitsTheSquareOfADotAndTheEarlierOfTwo)
     EXPECT_EQ(hit(318, 193), nullptr);
     EXPECT_EQ(hit(NAN, 190), nullptr);
 }
+
+TEST_F(CardTimelineGeometryTest, AStatementIsSeenInItsRowAndMeantByWhatIsWithinReach)
+{
+    auto& usual = insert(utc(2013, 11, 1), "0", "1000");
+    auto& over = insert(utc(2013, 11, 11), "1900", "1000");
+    auto& inCredit = insert(utc(2013, 11, 21), "-900", "1000");
+    auto& cut = insert(utc(2013, 12, 1), "1150", "1000");
+    const auto rows = geometry();
+    const auto anchor = [&](std::size_t index) {
+        return rows.anchorRect(rows.sortedStatementPoint(index).value());
+    };
+    EXPECT_EQ(anchor(0), QRectF(315, 187, 6, 6)) << "its dot's";
+    EXPECT_EQ(anchor(1), QRectF(415, 259, 6, 6));
+    EXPECT_EQ(anchor(2), QRectF(515, 185, 6, 6));
+    EXPECT_EQ(anchor(3), QRectF(615, 259, 6, 6)) << "its dot would be cut off";
+
+    const auto meant = [&](double x, double y) {
+        const auto found = rows.hitWithinReach({x, y});
+        return found ? found->statement : nullptr;
+    };
+    EXPECT_EQ(meant(326, 190), &usual);
+    EXPECT_EQ(meant(318, 198.5), nullptr);
+    EXPECT_EQ(meant(324, 196), nullptr) << "reach is round";
+    EXPECT_EQ(meant(418, 262), &over);
+    EXPECT_EQ(rows.hitWithinReach({418, 262})->point, QPointF(418, 262));
+    EXPECT_EQ(meant(520, 182), &inCredit);
+    EXPECT_EQ(meant(618, 268), &cut);
+    EXPECT_EQ(meant(NAN, 190), nullptr);
+    auto& near = insert(utc(2013, 11, 2), "0", "1000");
+    const auto crowded = geometry();
+    EXPECT_EQ(crowded.hitWithinReach({323, 196})->statement, &usual) << "as near, and earlier";
+    EXPECT_EQ(crowded.hitWithinReach({323.5, 196})->statement, &near);
+}
