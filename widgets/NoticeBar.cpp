@@ -110,9 +110,8 @@ void NoticeBar::paintEvent(QPaintEvent* event)
     GradientBox::paintEvent(event);
     QPainter painter(this);
     painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawText(textRect(),
-                     QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft) | Qt::AlignVCenter,
-                     m_shownText);
+    const auto alignment = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft);
+    painter.drawText(textRect(), static_cast<int>(alignment | Qt::AlignVCenter), m_shownText);
 }
 
 void NoticeBar::resizeEvent(QResizeEvent* /*event*/)
