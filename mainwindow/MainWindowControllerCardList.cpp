@@ -90,13 +90,13 @@ void MainWindowController::cardTableViewDidSelectCard(CVCardTableView& /*table*/
                                                       int index)
 {
     m_deleteKeyGuard->disarm();
-    m_ui->timelineTableView->selectRow(index);
+    m_cardsController->setSelectionIndex(static_cast<std::size_t>(index));
 }
 
 void MainWindowController::timelineTableViewDidSelectTimelineForCard(CVTimelineTableView& /*table*/,
                                                                      CVCard& /*card*/, int index)
 {
-    m_ui->cardsTableView->selectRow(index);
+    m_cardsController->setSelectionIndex(static_cast<std::size_t>(index));
 }
 
 void MainWindowController::timelineTableViewDidSelectStatement(CVTimelineTableView& table,

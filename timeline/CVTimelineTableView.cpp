@@ -55,8 +55,7 @@ void CVTimelineTableView::setCardsController(NSArrayController& cards)
 {
     m_cards = &cards;
     setModel(&cards);
-    m_selectionModel.setModel(&cards);
-    setSelectionModel(&m_selectionModel);
+    setSelectionModel(&cards.selectionModel());
 }
 
 void CVTimelineTableView::setTimelineCellDelegate(CVCardTimelineCellDelegate* delegate)

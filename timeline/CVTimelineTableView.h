@@ -7,8 +7,6 @@
 #include "timeline/CardTimelineGeometry.h"
 #include "widgets/RowTableView.h"
 
-#include <QItemSelectionModel>
-
 #include <optional>
 
 class CVTimelineTableViewDelegate;
@@ -17,7 +15,7 @@ class NSManagedObjectContext;
 class QHelpEvent;
 
 /// The body of the timeline: one row per card, drawn by a CVCardTimelineCell on an axis that all
-/// rows share. Its selection of rows is its own.
+/// rows share. The selected row is that of the card which is selected in the list.
 class CVTimelineTableView : public RowTableView
 {
     Q_OBJECT
@@ -29,7 +27,7 @@ public:
     void setManagedObjectContext(NSManagedObjectContext* context);
     NSManagedObjectContext* managedObjectContext() const { return m_context; }
 
-    /// The cards of the rows, from the first on; the controller must outlive the table.
+    /// The cards of the rows and their selection; the controller must outlive the table.
     void setCardsController(NSArrayController& cards);
     /// Who is told what the person does; null for nobody. Must outlive the table.
     void setTimelineDelegate(CVTimelineTableViewDelegate* delegate) { m_delegate = delegate; }
@@ -102,7 +100,6 @@ private:
     NSManagedObjectContext* m_context = nullptr;
     NSArrayController* m_cards = nullptr;
     CVTimelineTableViewDelegate* m_delegate = nullptr;
-    QItemSelectionModel m_selectionModel;
     CVCardTimelineCell m_cell;
     /// While a paint event lasts: the axis of all rows.
     std::optional<CVTimelineData> m_axis;

@@ -85,12 +85,12 @@ protected:
 
 } // namespace
 
-TEST_F(MainWindowControllerTest, aPressInOneTableSelectsTheRowOfTheOther)
+TEST_F(MainWindowControllerTest, bothTablesShowTheSelectedCard)
 {
     fill();
     open();
     EXPECT_EQ(controller->selectedCard(), first);
-    EXPECT_FALSE(timeline().selectedRow());
+    EXPECT_EQ(timeline().selectedRow(), 0) << "from the start";
     QTest::mouseClick(&list(), Qt::LeftButton, {}, {20, 96 + 20});
     EXPECT_EQ(controller->selectedCard(), second);
     EXPECT_EQ(timeline().selectedRow(), 1);
@@ -106,7 +106,11 @@ TEST_F(MainWindowControllerTest, aPressInOneTableSelectsTheRowOfTheOther)
     EXPECT_EQ(controller->selectedStatement(), &statement) << "it may be another card's";
     controller->selectCardAndMakeVisible(*empty);
     EXPECT_EQ(controller->selectedRow(), 2);
-    EXPECT_EQ(timeline().selectedRow(), 1) << "only the person's presses are handed over";
+    EXPECT_EQ(timeline().selectedRow(), 2);
+    empty->setName(QStringLiteral("0"));
+    store.context().processPendingChanges();
+    EXPECT_EQ(controller->selectedCard(), empty);
+    EXPECT_EQ(timeline().selectedRow(), 0) << "wherever its row goes";
     QTest::mouseClick(&timeline(), Qt::LeftButton, {}, {20, 96 * 4});
     EXPECT_EQ(controller->selectedStatement(), nullptr);
     EXPECT_EQ(controller->selectedCard(), empty);

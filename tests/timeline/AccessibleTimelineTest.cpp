@@ -66,6 +66,7 @@ protected:
         scrollView.show();
         scrollView.activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&scrollView));
+        QCoreApplication::sendPostedEvents();
         AccessibilityEvents::take();
     }
 
@@ -192,10 +193,11 @@ TEST_F(AccessibleTimelineTest, selectionsAreAnnouncedForTheRightItem)
     AccessibilityEvents::take();
     QTest::keyClick(&table(), Qt::Key_Down);
     EXPECT_EQ(AccessibilityEvents::take(),
-              (QStringList{QStringLiteral("selected Card 0"), QStringLiteral("focused Card 0")}));
+              (QStringList{QStringLiteral("unselected Card 0"), QStringLiteral("selected Card 1"),
+                           QStringLiteral("focused Card 1")}));
     table().selectRow(3);
     EXPECT_EQ(AccessibilityEvents::take(),
-              (QStringList{QStringLiteral("unselected Card 0"), QStringLiteral("selected Card 3"),
+              (QStringList{QStringLiteral("unselected Card 1"), QStringLiteral("selected Card 3"),
                            QStringLiteral("focused Card 3")}));
     table().clickStatement(early, 1);
     const auto title = StatementText::title(early);

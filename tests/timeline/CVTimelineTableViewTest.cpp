@@ -170,8 +170,7 @@ TEST_F(CVTimelineTableViewTest, keysMoveFromRowToRowAndCancel)
 {
     pressKey(Qt::Key_Down);
     pressKey(Qt::Key_Down);
-    pressKey(Qt::Key_Down);
-    EXPECT_EQ(delegate.rows, (std::vector{0, 1})) << "the end is the end";
+    EXPECT_EQ(delegate.rows, std::vector{1}) << "the end is the end";
     EXPECT_EQ(table().selectedRow(), 1);
     pressKey(Qt::Key_Home);
     EXPECT_EQ(table().selectedRow(), 0);
