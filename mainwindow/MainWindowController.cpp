@@ -350,6 +350,8 @@ void MainWindowController::showContext()
                 &MainWindowController::contextObjectsDidChange);
         connect(m_context, &NSManagedObjectContext::didSave, this,
                 &MainWindowController::contextDidSave);
+        connect(m_context, &NSManagedObjectContext::didFailToSave, this,
+                &MainWindowController::contextDidFailToSave);
     }
     showModified();
     tickleCanScale();
@@ -375,6 +377,16 @@ void MainWindowController::contextDidSave()
     tickleCanScale();
     showInvitation();
     placeEditors();
+    m_notice->withdrawUnsaved();
+}
+
+void MainWindowController::contextDidFailToSave(const NSError& error)
+{
+    // What was confirmed shows all the same.
+    redrawTimeline();
+    showModified();
+    m_notice->tellUnsaved(NoticeText::unsaved(error), tr("Save Again"),
+                          [this] { CVManagedObjectContext::saveAndLogError(*m_context); });
 }
 
 void MainWindowController::showModified()

@@ -25,6 +25,7 @@ class EditorPlaces;
 class HorizontalScrollAnimation;
 class MainWindowHost;
 class NSArrayController;
+class NSError;
 class NSManagedObjectContext;
 class NSUndoManager;
 class OpenCardEditor;
@@ -213,6 +214,7 @@ private:
     void showContext();
     void contextObjectsDidChange();
     void contextDidSave();
+    void contextDidFailToSave(const NSError& error);
     void showModified();
     void showInvitation();
     void selectionIndexDidChange();

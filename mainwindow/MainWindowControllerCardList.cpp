@@ -78,7 +78,7 @@ void MainWindowController::showStatement(CVStatement& statement)
 void MainWindowController::makeStatementVisible(const CVStatement& statement)
 {
     const auto& table = *m_ui->timelineTableView;
-    const auto rect = table.anchorRectForStatement(statement);
+    const auto rect = table.rectForStatement(statement);
     const QRectF visible = table.visibleRect();
     if (rect && !visible.contains(*rect)) {
         m_scrollAnimation->scrollTo(

@@ -41,6 +41,7 @@ void WindowNotice::withdrawUnsaved()
 void WindowNotice::show()
 {
     const auto& content = m_unsaved ? m_unsaved : m_told;
+    m_bar.setDismissible(!m_unsaved);
     if (content) {
         m_bar.showNotice(content->text, content->actionTitle);
     } else {

@@ -142,6 +142,17 @@ std::vector<NSManagedObject*> NSManagedObjectContext::deletedObjects() const
 
 void NSManagedObjectContext::save()
 {
+    try {
+        writeChanges();
+    } catch (const NSError& error) {
+        Q_EMIT didFailToSave(error);
+        throw;
+    }
+    Q_EMIT didSave();
+}
+
+void NSManagedObjectContext::writeChanges()
+{
     processPendingChanges();
     const bool areValid = validateEditedObjects();
     // A save ends the step that the person is making, with what validation corrected in it.
@@ -165,7 +176,6 @@ void NSManagedObjectContext::save()
         record->setState(NSManagedObject::Edited, false);
         record->m_changed = 0;
     }
-    Q_EMIT didSave();
 }
 
 bool NSManagedObjectContext::validateEditedObjects()

@@ -16,6 +16,7 @@
 #include <unordered_map>
 #include <vector>
 
+class NSError;
 class NSManagedObject;
 class NSPersistentStoreCoordinator;
 class ReadTransaction;
@@ -118,6 +119,8 @@ Q_SIGNALS:
     void objectsDidChange(const ObjectChanges& changes);
     /// A save succeeded: the context has no changes.
     void didSave();
+    /// A save failed, and save() is about to throw the error: every change is still here.
+    void didFailToSave(const NSError& error);
 
 private:
     friend class NSManagedObject;
@@ -152,6 +155,7 @@ private:
     void setDeleted(NSManagedObject& record, bool isDeleted);
     void processLog(ChangeLog log);
     void takeBack(const ChangeLog& log);
+    void writeChanges();
     bool validateEditedObjects();
     template <typename Predicate>
     std::vector<NSManagedObject*> touchedWhere(Predicate predicate) const;

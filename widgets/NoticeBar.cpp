@@ -97,6 +97,16 @@ void NoticeBar::clearNotice()
     setAccessibleName(QString());
 }
 
+void NoticeBar::setDismissible(bool isDismissible)
+{
+    if (!isDismissible && m_dismissButton->hasFocus()) {
+        m_actionButton->setFocus(Qt::OtherFocusReason);
+    }
+    m_dismissButton->setVisible(isDismissible);
+    layout()->activate();
+    layoutText();
+}
+
 void NoticeBar::changeEvent(QEvent* event)
 {
     GradientBox::changeEvent(event);

@@ -25,6 +25,8 @@ public:
     /// Shows a notice in place of the one that is there; an empty title stands for no button.
     void showNotice(const QString& text, const QString& actionTitle);
     void clearNotice();
+    /// Whether there is a ×; at first there is. Without one, a notice goes with its cause.
+    void setDismissible(bool isDismissible);
     bool isShowingNotice() const { return !m_text.isEmpty(); }
 
     /// The notice, in full; empty while there is none.

@@ -156,9 +156,9 @@ public:
         settle();
         compare(outcomes);
         checkWindow();
-        if (step.act != Act::TypeInEditor && step.act != Act::PressAnyKey &&
-            step.act != Act::ClickAnywhere && step.act != Act::Restart &&
-            !std::exchange(m_wasTypingTakenBack, false)) {
+        if (step.act != Act::TypeInEditor && step.act != Act::Confirm &&
+            step.act != Act::PressAnyKey && step.act != Act::ClickAnywhere &&
+            step.act != Act::Restart && !std::exchange(m_wasTypingTakenBack, false)) {
             checkTyping(before);
         }
     }
@@ -727,7 +727,7 @@ private:
                 "an editor is open for a card that is gone");
         require(!open.originalCard || m_model.now.cards.contains(open.originalCard),
                 "an editor is open for a card that is gone");
-        if (0) require(find<CVTimelineTableView>("timelineTableView").selectedRow() ==
+        require(find<CVTimelineTableView>("timelineTableView").selectedRow() ==
                     controller().selectedRow(),
                 "another band is highlighted than the list has selected");
         require(!controller().selectedStatement() ||
@@ -743,9 +743,10 @@ private:
         const bool hasStatement = now.statement &&
                                   now.originalStatement == before.originalStatement &&
                                   now.cardOfMonths == before.cardOfMonths;
-        require(before.typedForStatement.empty() || isTold || isWritten ||
-                    (hasStatement && now.typedForStatement.size() == before.typedForStatement.size()),
-                "what was typed for a statement is gone without a word");
+        require(
+            before.typedForStatement.empty() || isTold || isWritten ||
+                (hasStatement && now.typedForStatement.size() == before.typedForStatement.size()),
+            "what was typed for a statement is gone without a word");
         const bool hasCard = now.card && now.originalCard == before.originalCard;
         require(before.typedForCard.empty() || isTold || isWritten ||
                     (hasCard && now.typedForCard.size() == before.typedForCard.size()),

@@ -16,6 +16,8 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QDir>
+#include <QFileInfo>
 #include <QLineEdit>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -398,4 +400,30 @@ TEST_F(MainWindowEditingTest, aCardThatIsOpenedMeanwhileIsEditedAsACopy)
     controller.cardPopover()->performClose();
     EXPECT_EQ(controller.cardsController().rowCount(), 3);
     EXPECT_EQ(noticeButton().text(), QStringLiteral("Undo")) << "nobody pressed Add";
+}
+
+TEST_F(MainWindowEditingTest, whatCouldNotBeSavedIsToldUntilItIs)
+{
+    fill();
+    open();
+    const auto folder = QFileInfo(store.path()).absolutePath();
+    ASSERT_TRUE(QDir().rename(folder, folder + u"-away"));
+    pressAddIn(1);
+    settle();
+    statementEditor().setDate(utc(2017, 6, 1));
+    statementEditor().addOrUpdateStatement();
+    ASSERT_TRUE(notice().text().startsWith(QStringLiteral("Not saved: "))) << notice().text().toStdString();
+    EXPECT_EQ(noticeButton().text(), QStringLiteral("Save Again"));
+    EXPECT_EQ(controller.selectedStatement(), second->lastStatement());
+    EXPECT_TRUE(controller.window().isWindowModified());
+    controller.setSelectedStatement(nullptr);
+    controller.delete_();
+    noticeButton().click();
+    EXPECT_EQ(noticeButton().text(), QStringLiteral("Save Again")) << "before all else";
+    ASSERT_TRUE(QDir().rename(folder + u"-away", folder));
+    noticeButton().click();
+    EXPECT_EQ(noticeButton().text(), QStringLiteral("Undo")) << "the deletion is told after it";
+    EXPECT_FALSE(controller.window().isWindowModified());
+    noticeButton().click();
+    EXPECT_EQ(statementsInFile(), 4);
 }
