@@ -65,7 +65,7 @@ struct Line
     }
 };
 
-/// The name first.
+/// What the card is called first.
 std::vector<Line> linesOf(const CVCard& card, const QRectF& frame, double trailingSpace)
 {
     std::vector<Line> lines;
@@ -80,7 +80,7 @@ std::vector<Line> linesOf(const CVCard& card, const QRectF& frame, double traili
     };
     const auto titleFont = systemFont(titleSize);
     const auto detailFont = systemFont(DesktopFont::pixelSize(detailSize, largestDetailSize));
-    const auto name = card.name().value_or(QString());
+    const auto name = card.displayName();
     add(name, left, inset, titleFont, false, true);
     const double nameWidth = QFontMetricsF(titleFont).horizontalAdvance(name);
     // On the line of the name.

@@ -83,7 +83,7 @@ void setUpText(QWidget& label, const QColor& color, int pixelSize, QFont::Weight
 
 MainWindowController::MainWindowController(MainWindowHost& host)
     : m_host(host)
-    , m_cardsController(std::make_unique<NSArrayController>("Card", "name"))
+    , m_cardsController(std::make_unique<NSArrayController>("Card", "name", "displayName"))
     , m_notifications(NotificationQueue::defaultQueue(), this)
 {}
 

@@ -6,6 +6,7 @@
 #include "model/DebtForecast.h"
 #include "store/NSManagedObjectContext.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -46,6 +47,15 @@ std::optional<QString> CVCard::name() const
 void CVCard::setName(const std::optional<QString>& name)
 {
     setAttribute(Name, propertyValue(name));
+}
+
+QString CVCard::displayName() const
+{
+    if (isDeleted()) {
+        return {};
+    }
+    const auto name = this->name().value_or(QString());
+    return name.trimmed().isEmpty() ? QCoreApplication::translate("CVCard", "Unnamed card") : name;
 }
 
 std::optional<QString> CVCard::account() const
@@ -189,10 +199,16 @@ QString CVCard::formattedForecast() const
     return last ? DebtForecast::formattedForecast(*last) : QString();
 }
 
+PropertyValue CVCard::valueForKey(std::string_view key) const
+{
+    return key == "displayName" ? displayName() : NSManagedObject::valueForKey(key);
+}
+
 std::vector<std::string_view>
 CVCard::keyPathsForValuesAffectingValueForKey(std::string_view key) const
 {
     static constexpr auto dependencies = std::to_array<KeyDependency>({
+        {"displayName", "name"},
         {"firstStatement", "statements"},
         {"lastStatement", "statements"},
         {"sortedStatements", "statements"},

@@ -30,6 +30,9 @@ public:
 
     std::optional<QString> name() const;
     void setName(const std::optional<QString>& name);
+    /// What the card is called wherever it is shown: its name, or, for one without a name, a text
+    /// that says so. Empty when the card is deleted.
+    QString displayName() const;
     /// The account number or label as the person typed it.
     std::optional<QString> account() const;
     void setAccount(const std::optional<QString>& account);
@@ -74,6 +77,8 @@ public:
     /// nothing.
     QString formattedForecast() const;
 
+    /// The display name is a value by key too.
+    PropertyValue valueForKey(std::string_view key) const override;
     std::vector<std::string_view>
     keyPathsForValuesAffectingValueForKey(std::string_view key) const override;
     KeyValueObservable* observableValueForKey(std::string_view key) override;

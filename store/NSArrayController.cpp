@@ -6,10 +6,12 @@
 #include <algorithm>
 #include <utility>
 
-NSArrayController::NSArrayController(std::string entityName, std::string sortKey, QObject* parent)
+NSArrayController::NSArrayController(std::string entityName, std::string sortKey,
+                                     std::string displayKey, QObject* parent)
     : QAbstractListModel(parent)
     , m_entityName(std::move(entityName))
     , m_sortKey(std::move(sortKey))
+    , m_displayKey(std::move(displayKey))
     , m_selectionModel(this)
 {
     connect(&m_selectionModel, &QItemSelectionModel::selectionChanged, this,
@@ -121,7 +123,7 @@ QVariant NSArrayController::data(const QModelIndex& index, int role) const
     if (role != Qt::DisplayRole || !index.isValid()) {
         return {};
     }
-    const auto value = m_arranged[static_cast<std::size_t>(index.row())]->valueForKey(m_sortKey);
+    const auto value = m_arranged[static_cast<std::size_t>(index.row())]->valueForKey(m_displayKey);
     return propertyValueAs<QString>(value).value_or(QString());
 }
 

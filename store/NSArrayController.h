@@ -24,8 +24,9 @@ class NSArrayController : public QAbstractListModel, public KeyValueObject
 
 public:
     /// Sorts ascending by the attribute `sortKey`, by plain comparison; records without it come
-    /// first.
-    NSArrayController(std::string entityName, std::string sortKey, QObject* parent = nullptr);
+    /// first. Shows the text that a record has for `displayKey`.
+    NSArrayController(std::string entityName, std::string sortKey, std::string displayKey,
+                      QObject* parent = nullptr);
 
     /// Shows the records of `context`, none without one. The context must outlive the controller or
     /// be taken away again. Throws NSError when the records cannot be read; the list is empty then,
@@ -56,7 +57,7 @@ public:
     void remove();
 
     int rowCount(const QModelIndex& parent = {}) const override;
-    /// The text of the sort attribute, for display and for accessibility.
+    /// The text of a record, for display and for accessibility.
     QVariant data(const QModelIndex& index, int role) const override;
 
 private:
@@ -73,6 +74,7 @@ private:
 
     std::string m_entityName;
     std::string m_sortKey;
+    std::string m_displayKey;
     NSManagedObjectContext* m_context = nullptr;
     bool m_isFetched = false;
     std::vector<NSManagedObject*> m_arranged;

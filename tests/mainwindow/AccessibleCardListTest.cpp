@@ -60,7 +60,7 @@ protected:
     CVCard& busy = store.insertCard(QStringLiteral("Card 0"));
     CVStatement& statement =
         store.insertStatement(&busy, utc(2016, 1, 3), {"500", "1000", "500", 0.199});
-    NSArrayController cards{"Card", "name"};
+    NSArrayController cards{"Card", "name", "displayName"};
     Delegate delegate;
     QAction addStatement;
     AccessibilityEvents events;

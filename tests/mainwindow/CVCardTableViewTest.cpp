@@ -78,7 +78,7 @@ protected:
     }
 
     CardStore store;
-    NSArrayController cards{"Card", "name"};
+    NSArrayController cards{"Card", "name", "displayName"};
     Delegate delegate;
     QAction addStatement;
     QScrollArea scrollView;

@@ -10,6 +10,7 @@
 #include "timeline/CVTimelineTableView.h"
 #include "widgets/SplitView.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QImage>
 #include <QLabel>
@@ -313,6 +314,19 @@ TEST_F(MainWindowControllerTest, anEmptyStoreInvitesAndKeepsItsZoom)
     EXPECT_TRUE(find<QSlider>("zoomSlider").isEnabled());
     EXPECT_FALSE(controller->window().isWindowModified());
     EXPECT_EQ(timeline().timelineWidth(), scrollView().viewport()->width() - 3);
+}
+
+TEST_F(MainWindowControllerTest, aCardWithoutANameIsCalledSoButKeepsItsPlace)
+{
+    fill();
+    store.insertCard(QString());
+    open();
+    for (QWidget* const table :
+         {static_cast<QWidget*>(&list()), static_cast<QWidget*>(&timeline())}) {
+        auto* const rows = QAccessible::queryAccessibleInterface(table);
+        EXPECT_EQ(rows->child(0)->text(QAccessible::Name), QStringLiteral("Unnamed card"));
+        EXPECT_EQ(rows->child(1)->text(QAccessible::Name), QStringLiteral("Aurora"));
+    }
 }
 
 TEST_F(MainWindowControllerTest, theListOfCardsCanBeShutAndOpenedAgain)

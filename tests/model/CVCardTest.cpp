@@ -37,6 +37,23 @@ TEST(CVCardTest, HasOneOrderOfStatementsWhetherTheyAreReadOrNot)
     EXPECT_EQ(card->timeIntervalBetweenFirstAndLastStatements(), 59 * 86400.0);
 }
 
+TEST(CVCardTest, IsCalledByItsNameIfItHasOne)
+{
+    CardStore store;
+    auto& card = store.insertCard(u"Everyday"_qs);
+    int changes = 0;
+    const auto observation =
+        card.observe("displayName", [&changes](const ObservedChange&) { ++changes; });
+    EXPECT_EQ(card.displayName(), u"Everyday"_qs);
+    for (const auto& name :
+         {std::optional(u""_qs), std::optional(u" "_qs), std::optional<QString>()}) {
+        card.setName(name);
+        EXPECT_EQ(card.valueForKey("displayName"), PropertyValue(u"Unnamed card"_qs));
+        EXPECT_EQ(card.name(), name);
+    }
+    EXPECT_EQ(changes, 3);
+}
+
 TEST(CVCardTest, AnswersAbsentWithoutStatementsButThrowsForTheFirst)
 {
     CardStore store;

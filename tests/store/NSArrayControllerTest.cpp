@@ -55,7 +55,7 @@ protected:
     NSArrayControllerTest() { store.open(); }
 
     LibraryStore store;
-    NSArrayController list{"Library", "name"};
+    NSArrayController list{"Library", "name", "name"};
 };
 
 } // namespace

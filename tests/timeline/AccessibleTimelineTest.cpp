@@ -91,7 +91,7 @@ protected:
     CVStatement& late = store.insertStatement(&first, utc(2016, 12, 20), {"900", "1000"});
     CVStatement& undated = store.insertStatement(&first, std::nullopt, {"900", "1000"});
     CVStatement& extreme = store.insertStatement(&second, utc(2016, 1, 1), {"9e37", "0.01"});
-    NSArrayController cards{"Card", "name"};
+    NSArrayController cards{"Card", "name", "displayName"};
     Delegate delegate;
     AccessibilityEvents events;
     CVTimelineScrollView scrollView;

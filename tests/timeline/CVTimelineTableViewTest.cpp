@@ -97,7 +97,7 @@ protected:
     /// Close enough for its dot to lie over the other's.
     CVStatement& laterTwin = store.insertStatement(&second, utc(2015, 2, 3, 12), {"500", "1000"});
     CVStatement& last = store.insertStatement(&first, utc(2016, 12, 20), {"900", "1000"});
-    NSArrayController cards{"Card", "name"};
+    NSArrayController cards{"Card", "name", "displayName"};
     Delegate delegate;
     CVTimelineScrollView scrollView;
 };
