@@ -6,6 +6,7 @@
 #include "model/Calculations.h"
 #include "store/NSManagedObjectContext.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <array>
@@ -113,4 +114,10 @@ void DemoStore::fill(NSManagedObjectContext& context)
     }
     context.save();
     context.undoManager().removeAllActions();
+}
+
+QString DemoStore::windowTitle()
+{
+    // Qt would add the program's name to a title that does not end with it.
+    return u"[*]" + QCoreApplication::translate("DemoStore", "Demo, nothing is kept – Corvane");
 }

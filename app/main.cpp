@@ -181,6 +181,9 @@ int runApplication(CVApplication& application, const CommandLine& commandLine,
     delegate.applicationDidFinishLaunching();
     auto& window = delegate.mainWindowController()->window();
     application.connectActions(window);
+    if (commandLine.isDemo) {
+        window.setWindowTitle(DemoStore::windowTitle());
+    }
     if (isSnapshot) {
         if (!Snapshot::draw(window, commandLine.snapshotPath)) {
             Log::line(QString(u"Unable to write " + commandLine.snapshotPath));
