@@ -34,6 +34,8 @@ public:
 
     virtual ~AlertPresenter() = default;
 
+    /// Whether somebody is there to answer.
+    virtual bool isAttended() const { return true; }
     virtual void presentError(const NSError& error) = 0;
     /// Shows the error, and lets the person try the recovery as often as they like. Answers whether
     /// it succeeded.

@@ -214,6 +214,11 @@ bool Corvane_AppDelegate::mayTerminate()
     return applicationShouldTerminate() == TerminateReply::Now;
 }
 
+bool Corvane_AppDelegate::isAttended() const
+{
+    return m_alerts.isAttended();
+}
+
 void Corvane_AppDelegate::sessionWillEnd()
 {
     if (m_mainWindowController) {

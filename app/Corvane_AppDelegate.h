@@ -63,6 +63,7 @@ public:
     bool applicationShouldHandleReopen() const { return true; }
     UserDefaults& userDefaults() override { return m_userDefaults; }
     bool mayTerminate() override;
+    bool isAttended() const override;
 
     /// The session or the system ends the program: saves, and remembers the view, without asking
     /// anybody. What fails is reported on standard error.

@@ -7,6 +7,7 @@
 class LogPresenter : public AlertPresenter
 {
 public:
+    bool isAttended() const override { return false; }
     void presentError(const NSError& error) override;
     bool presentError(const NSError& error, const Recovery& recovery) override;
     int runModalAlert(const Alert& alert) override;

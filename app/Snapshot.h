@@ -6,7 +6,8 @@ class QWidget;
 
 namespace Snapshot {
 
-/// Draws the window, once it has settled, into a PNG file. Whether the file could be written.
+/// Draws the window, once nothing in it moves any more, into a PNG file. Animations must be off.
+/// Answers whether the file could be written.
 bool draw(QWidget& window, const QString& path);
 
 } // namespace Snapshot

@@ -176,6 +176,10 @@ int runApplication(CVApplication& application, const CommandLine& commandLine,
                                                        appearance->hasHighContrast());
                          });
     }
+    if (isSnapshot) {
+        // A picture shows where a motion leads.
+        application.setAppearance(true, false);
+    }
     // An alert that closes before the window is shown is not the last window.
     QGuiApplication::setQuitOnLastWindowClosed(false);
     delegate.applicationDidFinishLaunching();

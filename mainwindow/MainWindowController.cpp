@@ -223,7 +223,9 @@ void MainWindowController::windowDidLoad()
     m_ui->cardsTableView->setFocus(Qt::OtherFocusReason);
     observeSelectedStatement();
     m_notifications.enqueue(restoreTimelineGeometryNotification);
-    m_notifications.enqueue(newCardNotification);
+    if (m_host.isAttended()) {
+        m_notifications.enqueue(newCardNotification);
+    }
 }
 
 void MainWindowController::handle(std::string_view notification,

@@ -16,4 +16,6 @@ public:
     virtual UserDefaults& userDefaults() = 0;
     /// Closing the window ends the program: whether it may end now.
     virtual bool mayTerminate() = 0;
+    /// Whether somebody is there, who can be asked to begin with a first card.
+    virtual bool isAttended() const = 0;
 };

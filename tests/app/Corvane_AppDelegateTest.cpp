@@ -3,6 +3,7 @@
 #include "app/AboutBox.h"
 #include "app/AssertionFailure.h"
 #include "app/DialogPresenter.h"
+#include "app/LogPresenter.h"
 #include "app/StoreLock.h"
 #include "app/SupportDirectory.h"
 #include "foundation/Log.h"
@@ -336,6 +337,19 @@ TEST_F(Corvane_AppDelegateTest, undoFromTheWindowIsSavedAndShown)
     EXPECT_EQ(fresh.countForFetchRequest({"Card"}), 0);
     controller.window().redo();
     EXPECT_EQ(fresh.countForFetchRequest({"Card"}), 1);
+}
+
+TEST_F(Corvane_AppDelegateTest, asksForAFirstCardOnlyWhereSomebodyIsThere)
+{
+    LogPresenter nobody;
+    const auto asks = [](Corvane_AppDelegate& each) {
+        each.applicationDidFinishLaunching();
+        QCoreApplication::processEvents();
+        return each.mainWindowController()->cardPopover() != nullptr;
+    };
+    EXPECT_TRUE(asks(delegate));
+    Corvane_AppDelegate unattended(nobody, UserDefaults::volatileDefaults(), directory());
+    EXPECT_FALSE(asks(unattended));
 }
 
 TEST_F(Corvane_AppDelegateTest, theAboutBoxOpensTheFolderOfTheStore)

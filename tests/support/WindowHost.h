@@ -17,6 +17,7 @@ public:
         ++asked;
         return answer;
     }
+    bool isAttended() const override { return true; }
 
     /// What it says when it is asked whether the program may end, and how often it was.
     bool answer = true;
