@@ -11,6 +11,8 @@
 
 #include <QString>
 
+#include <functional>
+
 namespace {
 
 /// The timeline's margins at both ends together, in points.
@@ -36,12 +38,33 @@ void logUnfetchedCards(const NSError& error)
     Log::line(QString(u"Unable to fetch cards with statements: " + error.description()));
 }
 
-std::optional<Instant> statementDate(NSManagedObjectContext& context, const char* keyPath,
-                                     const char* name)
+std::optional<Instant> savedStatementDate(NSManagedObjectContext& context, const char* keyPath,
+                                          const char* name)
 {
     return propertyValueAs<Instant>(
         CVManagecObjectContextInternal::fetchStatementAttributeWithKeyPathExpression(
             context, keyPath, NSAttributeType::Date, name));
+}
+
+/// The date, or that of a statement which could not be saved, whichever comes before all others.
+template <typename ComesBefore>
+std::optional<Instant> withUnsavedDates(std::optional<Instant> date,
+                                        const NSManagedObjectContext& context,
+                                        ComesBefore comesBefore)
+{
+    if (!context.didLastSaveFail()) {
+        return date;
+    }
+    for (const auto& records : {context.insertedObjects(), context.updatedObjects()}) {
+        for (const auto* const record : records) {
+            const auto* const statement = dynamic_cast<const CVStatement*>(record);
+            const auto unsaved = statement ? statement->date() : std::nullopt;
+            if (unsaved && (!date || comesBefore(*unsaved, *date))) {
+                date = unsaved;
+            }
+        }
+    }
+    return date;
 }
 
 } // namespace
@@ -50,12 +73,14 @@ namespace CVManagedObjectContext {
 
 std::optional<Instant> firstStatementDate(NSManagedObjectContext& context)
 {
-    return statementDate(context, "@min.date", "minDate");
+    return withUnsavedDates(savedStatementDate(context, "@min.date", "minDate"), context,
+                            std::less());
 }
 
 std::optional<Instant> lastStatementDate(NSManagedObjectContext& context)
 {
-    return statementDate(context, "@max.date", "maxDate");
+    return withUnsavedDates(savedStatementDate(context, "@max.date", "maxDate"), context,
+                            std::greater());
 }
 
 double timeIntervalBetweenFirstAndLastStatements(NSManagedObjectContext& context)

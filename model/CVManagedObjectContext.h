@@ -20,8 +20,9 @@ class NSManagedObjectContext;
 /// is logged in one line and answered with the neutral value that the operation names.
 namespace CVManagedObjectContext {
 
-/// The earliest (latest) statement date in the file, of whatever card; unsaved changes are not
-/// seen. Absent when there is none, or on failure.
+/// The earliest (latest) statement date in the file, of whatever card. Unsaved changes are not
+/// seen, save while the context's latest save has failed: what was confirmed then is reached as
+/// well. Absent when there is none, or on failure.
 std::optional<Instant> firstStatementDate(NSManagedObjectContext& context);
 std::optional<Instant> lastStatementDate(NSManagedObjectContext& context);
 

@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <utility>
 
 using namespace CVManagedObjectContext;
 
@@ -53,6 +54,33 @@ TEST_F(CVManagedObjectContextTest, SpansTheMonthsOfWhatIsSaved)
     EXPECT_EQ(timeIntervalBetweenFirstAndLastStatements(context), 75 * 86400 + 77400.0);
     EXPECT_EQ(timeIntervalBetweenFirstAndLastStatementMonths(context), 90 * 86400 - 3601.0)
         << "the clocks went forward";
+}
+
+TEST_F(CVManagedObjectContextTest, ReachesToWhatWasConfirmedWhileItCannotBeSaved)
+{
+    auto& moved = store.insertStatement(nullptr, utc(2013, 5, 1));
+    auto& deleted = store.insertStatement(nullptr, utc(2013, 6, 1));
+    store.save();
+    const auto dates = [this] {
+        return std::pair(firstStatementDate(context), lastStatementDate(context));
+    };
+    SQLite::Database vandal(store.path().toStdString(), SQLite::OPEN_READWRITE);
+    vandal.exec("CREATE TRIGGER refuse BEFORE INSERT ON Statement"
+                " BEGIN SELECT RAISE(ABORT, 'refused'); END");
+    auto& added = store.insertStatement(nullptr, utc(2013, 9, 1));
+    store.insertStatement(nullptr, std::nullopt);
+    moved.setDate(utc(2013, 2, 1));
+    EXPECT_EQ(dates(), std::pair(std::optional(utc(2013, 5, 1)), std::optional(utc(2013, 6, 1))));
+    const Log::Collector log;
+    EXPECT_FALSE(saveAndLogError(context));
+    EXPECT_EQ(dates(), std::pair(std::optional(utc(2013, 2, 1)), std::optional(utc(2013, 9, 1))));
+
+    context.deleteObject(added);
+    context.deleteObject(deleted);
+    EXPECT_EQ(lastStatementDate(context), utc(2013, 6, 1)) << "the file still has it";
+    vandal.exec("DROP TRIGGER refuse");
+    store.save();
+    EXPECT_EQ(dates(), std::pair(std::optional(utc(2013, 2, 1)), std::optional(utc(2013, 2, 1))));
 }
 
 TEST_F(CVManagedObjectContextTest, CountsAndTotalsIncludeWhatIsUnsaved)
