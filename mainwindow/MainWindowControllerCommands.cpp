@@ -19,6 +19,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 
 #include <algorithm>
 
@@ -138,7 +139,14 @@ void MainWindowController::toggleCardList()
 
 bool MainWindowController::keyDown(const QKeyEvent& event)
 {
-    if ((event.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) {
+    const auto modifiers = event.modifiers() & ~Qt::KeypadModifier;
+    const bool isPageUp = event.key() == Qt::Key_PageUp;
+    if (modifiers == Qt::ControlModifier && (isPageUp || event.key() == Qt::Key_PageDown)) {
+        m_ui->timelineScrollView->horizontalScrollBar()->triggerAction(
+            isPageUp ? QAbstractSlider::SliderPageStepSub : QAbstractSlider::SliderPageStepAdd);
+        return true;
+    }
+    if (modifiers != Qt::NoModifier) {
         return false;
     }
     switch (event.key()) {

@@ -119,12 +119,7 @@ void CVSyncScrollView::wheelEvent(QWheelEvent* event)
 
 void CVSyncScrollView::keyPressEvent(QKeyEvent* event)
 {
-    const bool isBack = event->key() == Qt::Key_PageUp;
-    if ((isBack || event->key() == Qt::Key_PageDown) && event->modifiers() == Qt::ControlModifier) {
-        horizontalScrollBar()->triggerAction(isBack ? QAbstractSlider::SliderPageStepSub
-                                                    : QAbstractSlider::SliderPageStepAdd);
-        return;
-    }
+    // QScrollArea's own would scroll, and keep the window's keys from it.
     event->ignore();
 }
 

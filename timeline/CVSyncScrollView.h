@@ -10,8 +10,8 @@
 /// more than that: it leaves room beside its content for what the partner's scroll bars take, or
 /// what stands beside the partner.
 ///
-/// Ctrl and the wheel are left to the window, and so are the keys, but for Ctrl with Page Up and
-/// Page Down: these, and Shift with the wheel, scroll sideways.
+/// Ctrl and the wheel are left to the window, and so are the keys. Shift and the wheel scroll
+/// sideways.
 class CVSyncScrollView : public QScrollArea
 {
     Q_OBJECT

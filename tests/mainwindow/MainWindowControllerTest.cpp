@@ -212,6 +212,24 @@ TEST_F(MainWindowControllerTest, zoomsByMenuWheelPinchAndControlAroundTheMiddle)
     EXPECT_EQ(scrollView().contentOrigin().x(), 0);
 }
 
+TEST_F(MainWindowControllerTest, controlAndThePageKeysGoToOtherMonthsFromEitherTable)
+{
+    fill();
+    open();
+    controller->setScale(10.0);
+    for (QWidget* const table :
+         {static_cast<QWidget*>(&list()), static_cast<QWidget*>(&timeline())}) {
+        scrollView().setContentOrigin({0, 0});
+        QTest::keyClick(table, Qt::Key_PageDown, Qt::ControlModifier);
+        QTest::keyClick(table, Qt::Key_PageDown, Qt::ControlModifier);
+        const int page = scrollView().horizontalScrollBar()->pageStep();
+        EXPECT_EQ(scrollView().contentOrigin().x(), 2 * page);
+        QTest::keyClick(table, Qt::Key_PageUp, Qt::ControlModifier);
+        EXPECT_EQ(scrollView().contentOrigin().x(), page);
+        EXPECT_EQ(controller->selectedCard(), first);
+    }
+}
+
 TEST_F(MainWindowControllerTest, movedToAnotherScreenItIsDrawnAsIfItHadAlwaysBeenThere)
 {
     fill();
