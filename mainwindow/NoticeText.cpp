@@ -12,7 +12,7 @@ namespace {
 
 QString nameOf(const CVCard* card)
 {
-    return card ? card->name().value_or(QString()) : QString();
+    return card ? card->displayName() : QString();
 }
 
 QString dateOf(const CVStatement& statement)

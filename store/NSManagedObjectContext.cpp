@@ -145,9 +145,11 @@ void NSManagedObjectContext::save()
     try {
         writeChanges();
     } catch (const NSError& error) {
+        m_didLastSaveFail = true;
         Q_EMIT didFailToSave(error);
         throw;
     }
+    m_didLastSaveFail = false;
     Q_EMIT didSave();
 }
 

@@ -77,6 +77,8 @@ public:
     /// were; then writes all changes in one transaction. On failure throws NSError: the file is as
     /// it was, and every change is still here.
     void save();
+    /// Whether the latest save failed: what somebody wanted to have saved is still unsaved.
+    bool didLastSaveFail() const { return m_didLastSaveFail; }
 
     void objectDidBeginEditing(NSEditor& editor);
     void objectDidEndEditing(NSEditor& editor);
@@ -119,7 +121,7 @@ Q_SIGNALS:
     void objectsDidChange(const ObjectChanges& changes);
     /// A save succeeded: the context has no changes.
     void didSave();
-    /// A save failed, and save() is about to throw the error: every change is still here.
+    /// A save failed, and is about to throw the same error.
     void didFailToSave(const NSError& error);
 
 private:
@@ -168,6 +170,7 @@ private:
     ChangeLog m_log;
     bool m_isValidating = false;
     bool m_isTakingBack = false;
+    bool m_didLastSaveFail = false;
     bool m_isProcessingScheduled = false;
     NSUndoManager m_undoManager;
 };

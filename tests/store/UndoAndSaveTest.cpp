@@ -186,10 +186,17 @@ TEST_F(UndoAndSaveTest, aFailedSaveChangesNothingAndTheNextOneSucceeds)
     auto& added = store.insertBook(&city, QStringLiteral("Sanditon"));
     SQLite::Database other(store.path().toStdString(), SQLite::OPEN_READWRITE);
     other.exec("CREATE TRIGGER refuse BEFORE UPDATE ON Book BEGIN SELECT RAISE(ABORT, 'no'); END");
+    QStringList told;
+    QObject::connect(&context(), &NSManagedObjectContext::didFailToSave,
+                     [&told](const NSError& error) { told.append(error.description()); });
+    QObject::connect(&context(), &NSManagedObjectContext::didSave,
+                     [&told] { told.append(QStringLiteral("saved")); });
     try {
         context().save();
         FAIL() << "the save succeeded";
     } catch (const NSError& error) {
+        EXPECT_EQ(told, QStringList(error.description()));
+        EXPECT_TRUE(context().didLastSaveFail());
         EXPECT_EQ(error.domain(), QStringLiteral("NSSQLiteErrorDomain"));
         EXPECT_FALSE(QString::fromLatin1(error.what()).contains(QStringLiteral("Emma")));
     }
@@ -204,6 +211,9 @@ TEST_F(UndoAndSaveTest, aFailedSaveChangesNothingAndTheNextOneSucceeds)
 
     other.exec("DROP TRIGGER refuse");
     context().save();
+    EXPECT_EQ(told.size(), 2);
+    EXPECT_EQ(told.last(), QStringLiteral("saved"));
+    EXPECT_FALSE(context().didLastSaveFail());
     NSManagedObjectContext fresh(store.coordinator());
     EXPECT_EQ(snapshot(fresh), snapshot(context()));
     EXPECT_EQ(textOf(changed, "title"), QStringLiteral("Emma II"));
