@@ -412,7 +412,8 @@ TEST_F(MainWindowEditingTest, whatCouldNotBeSavedIsToldUntilItIs)
     settle();
     statementEditor().setDate(utc(2017, 6, 1));
     statementEditor().addOrUpdateStatement();
-    ASSERT_TRUE(notice().text().startsWith(QStringLiteral("Not saved: "))) << notice().text().toStdString();
+    ASSERT_TRUE(notice().text().startsWith(QStringLiteral("Not saved: ")))
+        << notice().text().toStdString();
     EXPECT_EQ(noticeButton().text(), QStringLiteral("Save Again"));
     EXPECT_EQ(controller.selectedStatement(), second->lastStatement());
     EXPECT_TRUE(controller.window().isWindowModified());
