@@ -5,6 +5,7 @@
 #include "foundation/NotificationQueue.h"
 #include "mainwindow/CVCardTableViewDelegate.h"
 #include "mainwindow/CVMainWindow.h"
+#include "mainwindow/editing/EditorTarget.h"
 #include "timeline/CVCardTimelineCellDelegate.h"
 #include "timeline/CVTimelineTableViewDelegate.h"
 #include "widgets/NSPopoverDelegate.h"
@@ -31,8 +32,6 @@ class NSUndoManager;
 class OpenCardEditor;
 class OpenStatementEditor;
 class WindowNotice;
-struct EditorDraft;
-struct EditorTarget;
 struct ObjectChanges;
 
 namespace Ui {
@@ -240,6 +239,7 @@ private:
     /// Rows or dots may be somewhere else now.
     void placeEditors();
     void selectedStatementFiguresDidChange();
+    bool warnsOfUnconfirmed();
     void tellDropped(const EditorDraft& draft);
     void tellGone(const EditorTarget& target);
     void continueEditing(const EditorDraft& draft);
@@ -265,6 +265,8 @@ private:
     /// From the command until the editor opens, after the event: the card that it will be for.
     CVCard* m_cardOfComingStatement = nullptr;
     WindowNotice* m_notice = nullptr;
+    /// What the person was last told would be lost by closing the window.
+    std::vector<EditorDraft> m_warnedOf;
     DeleteKeyGuard* m_deleteKeyGuard = nullptr;
     /// While a step is taken back or done again: the other one of the two.
     void (MainWindowController::*m_wayBack)() = nullptr;

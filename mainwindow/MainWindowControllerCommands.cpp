@@ -102,7 +102,7 @@ void MainWindowController::selectChanged(const ObjectChanges& changes)
 
 bool MainWindowController::windowShouldClose()
 {
-    return m_host.mayTerminate();
+    return !warnsOfUnconfirmed() && m_host.mayTerminate();
 }
 
 bool MainWindowController::validateUserInterfaceItem(QAction& item)

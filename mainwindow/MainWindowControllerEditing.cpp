@@ -370,6 +370,26 @@ void MainWindowController::cardEditorDidClose(std::unique_ptr<OpenCardEditor> ed
     redrawTimeline();
 }
 
+/// Whether something typed would go with the window. The person is told once: who closes the window
+/// again means it, unless more was typed since.
+bool MainWindowController::warnsOfUnconfirmed()
+{
+    std::vector<EditorDraft> drafts;
+    for (const OpenEditor* const editor :
+         std::initializer_list<const OpenEditor*>{m_statementEditor.get(), m_cardEditor.get()}) {
+        if (auto draft = editor ? editor->draft() : EditorDraft{}; !draft.texts.empty()) {
+            drafts.push_back(std::move(draft));
+        }
+    }
+    if (drafts.empty() || drafts == m_warnedOf) {
+        return false;
+    }
+    m_notice->tell(NoticeText::unconfirmed(drafts.front().target), tr("Quit"),
+                   [this] { m_window->close(); });
+    m_warnedOf = std::move(drafts);
+    return true;
+}
+
 void MainWindowController::tellDropped(const EditorDraft& draft)
 {
     if (!draft.texts.empty() && !draft.target.isGone()) {

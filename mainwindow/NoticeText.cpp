@@ -66,6 +66,27 @@ QString NoticeText::dropped(const EditorTarget& target)
     return {};
 }
 
+QString NoticeText::unconfirmed(const EditorTarget& target)
+{
+    switch (target.kind) {
+    case EditorTarget::Kind::NewCard:
+        return QCoreApplication::translate("NoticeText", "The new card is not added yet");
+    case EditorTarget::Kind::NewStatement:
+        return QCoreApplication::translate("NoticeText", "The statement for %1 is not added yet")
+            .arg(nameOf(static_cast<const CVCard*>(target.record)));
+    case EditorTarget::Kind::Card:
+        return QCoreApplication::translate("NoticeText", "The changes to %1 are not kept yet")
+            .arg(nameOf(static_cast<const CVCard*>(target.record)));
+    case EditorTarget::Kind::Statement: {
+        const auto& statement = static_cast<const CVStatement&>(*target.record);
+        return QCoreApplication::translate(
+                   "NoticeText", "The changes to the statement of %1 for %2 are not kept yet")
+            .arg(dateOf(statement), nameOf(statement.card()));
+    }
+    }
+    return {};
+}
+
 QString NoticeText::gone(const EditorTarget& target)
 {
     return target.kind == EditorTarget::Kind::Statement

@@ -16,6 +16,8 @@ QString deleted(const CVStatement& statement);
 
 /// An editor was given up, and with it what was typed.
 QString dropped(const EditorTarget& target);
+/// The person wants to quit while something typed is not confirmed.
+QString unconfirmed(const EditorTarget& target);
 /// What an editor was open for was deleted or taken back, and the editor closed.
 QString gone(const EditorTarget& target);
 /// An editor closed by itself, and wrote what was typed.

@@ -39,4 +39,6 @@ struct EditorDraft
     EditorTarget target;
     /// Empty when nothing was typed.
     CVPopoverController::TypedTexts texts;
+
+    bool operator==(const EditorDraft&) const = default;
 };

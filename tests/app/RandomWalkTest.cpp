@@ -212,7 +212,9 @@ private:
         require(m_delegate->applicationShouldTerminate() ==
                     Corvane_AppDelegate::TerminateReply::Now,
                 "the program does not end");
-        window().close();
+        const auto open = editors();
+        const bool isTyped = !open.typedForStatement.empty() || !open.typedForCard.empty();
+        require(window().close() || isTyped, "the window does not close");
         m_delegate.reset();
         start();
         require(m_model.now.lines() == before, "a restart changed the records");

@@ -428,3 +428,19 @@ TEST_F(MainWindowEditingTest, whatCouldNotBeSavedIsToldUntilItIs)
     noticeButton().click();
     EXPECT_EQ(statementsInFile(), 4);
 }
+
+TEST_F(MainWindowEditingTest, closingTheWindowOverSomethingTypedIsAskedOnce)
+{
+    fill();
+    open();
+    pressAddIn(0);
+    settle();
+    EXPECT_TRUE(controller.windowShouldClose()) << "nothing was typed";
+    type("balanceField", "77");
+    EXPECT_FALSE(controller.windowShouldClose());
+    EXPECT_EQ(noticeButton().text(), QStringLiteral("Quit"));
+    EXPECT_EQ(typed("balanceField"), QStringLiteral("77"));
+    type("balanceField", "78");
+    EXPECT_FALSE(controller.windowShouldClose()) << "more was typed";
+    EXPECT_TRUE(controller.windowShouldClose());
+}
