@@ -88,9 +88,10 @@ QRect CVCardTableView::newStatementPopoverAnchorRectForRow(int row) const
 
 void CVCardTableView::doubleClickRow(int row)
 {
-    if (cardAtRow(row)) {
-        scrollRowToVisible(row);
-        Q_EMIT doubleClicked(rowView(row));
+    scrollRowToVisible(row);
+    // None while the list is shut.
+    if (auto* const view = rowView(row)) {
+        Q_EMIT doubleClicked(view);
     }
 }
 
