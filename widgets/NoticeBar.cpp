@@ -44,6 +44,12 @@ QString wrappedToTwoLines(const QString& text, const QFont& font, int width)
     return rest.isEmpty() ? shown : shown + u'\n' + metrics.elidedText(rest, Qt::ElideRight, width);
 }
 
+/// Between two lines there is a space in one language, and nothing in another.
+bool isShortened(QString text, QString shown)
+{
+    return shown.remove(u'\n').remove(u' ') != text.remove(u' ');
+}
+
 } // namespace
 
 NoticeBar::NoticeBar(QWidget* parent)
@@ -163,8 +169,7 @@ QRect NoticeBar::textRect() const
 void NoticeBar::layoutText()
 {
     m_shownText = wrappedToTwoLines(m_text, font(), textRect().width());
-    const auto whole = m_text.simplified();
-    setToolTip(m_shownText.simplified() == whole ? QString() : m_text);
+    setToolTip(isShortened(m_text, m_shownText) ? m_text : QString());
     const auto lines = fontMetrics().size(0, m_shownText).height();
     setFixedHeight(std::max(
         {leastHeight, lines + 2 * verticalPadding, layout()->totalMinimumSize().height()}));
