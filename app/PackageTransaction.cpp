@@ -40,7 +40,7 @@ QString reasonFor(const QDBusError& error)
     case QDBusError::TimedOut:
         return PackageTransaction::tr("PackageKit does not answer.");
     case QDBusError::Disconnected:
-        return PackageTransaction::tr("The system's message bus cannot be reached.");
+        return PackageTransaction::tr("The system’s message bus cannot be reached.");
     default:
         return PackageTransaction::tr("PackageKit cannot be asked: %1")
             .arg(inBrief(error.message()));

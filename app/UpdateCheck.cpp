@@ -31,7 +31,7 @@ void UpdateCheck::start()
         return;
     }
     if (!m_bus.isConnected()) {
-        giveUp(tr("The system's message bus cannot be reached."));
+        giveUp(tr("The system’s message bus cannot be reached."));
         return;
     }
     m_patience.start();

@@ -4,8 +4,6 @@
 #include "foundation/NumberFormatter.h"
 #include "foundation/NumberParser.h"
 
-#include <QStringBuilder>
-
 #include <algorithm>
 
 namespace {
@@ -69,6 +67,7 @@ QString AmountField::refusal(const NumberParser::Amount& amount, const std::opti
     const auto reason = decimals == 0
                             ? tr("An amount here has no decimals.")
                             : tr("An amount here has at most %n decimals.", nullptr, decimals);
-    return amount.numberInThousands ? QString(reason % u' ' % tr("Did you mean %1?").arg(thousands))
-                                    : reason;
+    return amount.numberInThousands
+               ? tr("%1 %2", "two sentences").arg(reason, tr("Did you mean %1?").arg(thousands))
+               : reason;
 }

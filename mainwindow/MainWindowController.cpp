@@ -402,7 +402,7 @@ void MainWindowController::showInvitation()
     const bool hasCards = m_cardsController->rowCount() > 0;
     m_ui->invitationTitle->setText(hasCards ? tr("No statements yet") : tr("No cards yet"));
     m_ui->invitationText->setText(
-        hasCards ? tr("Add a card's statement with the + in its row, and another each month.")
+        hasCards ? tr("Add a card’s statement with the + in its row, and another each month.")
                  : tr("Add your first card with the + below the list, then a statement each "
                       "month, and see the day you will be debt-free."));
     // Nobody is invited to begin anew whose cards could not be read.

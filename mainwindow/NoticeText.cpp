@@ -51,15 +51,15 @@ QString NoticeText::dropped(const EditorTarget& target)
     case EditorTarget::Kind::NewCard:
         return QCoreApplication::translate("NoticeText", "The new card was not added");
     case EditorTarget::Kind::Card:
-        return QCoreApplication::translate("NoticeText", "The changes to %1 were not kept")
+        return QCoreApplication::translate("NoticeText", "%1 was not changed")
             .arg(nameOf(static_cast<const CVCard*>(target.record)));
     case EditorTarget::Kind::NewStatement:
         return QCoreApplication::translate("NoticeText", "The statement for %1 was not added")
             .arg(nameOf(static_cast<const CVCard*>(target.record)));
     case EditorTarget::Kind::Statement: {
         const auto& statement = static_cast<const CVStatement&>(*target.record);
-        return QCoreApplication::translate(
-                   "NoticeText", "The changes to the statement of %1 for %2 were not kept")
+        return QCoreApplication::translate("NoticeText",
+                                           "The statement of %1 for %2 was not changed")
             .arg(dateOf(statement), nameOf(statement.card()));
     }
     }
@@ -91,9 +91,9 @@ QString NoticeText::gone(const EditorTarget& target)
 {
     return target.kind == EditorTarget::Kind::Statement
                ? QCoreApplication::translate("NoticeText",
-                                             "The statement is gone, so its editor was closed")
+                                             "The statement is gone, so the editor was closed")
                : QCoreApplication::translate("NoticeText",
-                                             "The card is gone, so its editor was closed");
+                                             "The card is gone, so the editor was closed");
 }
 
 QString NoticeText::written(const CVCard& card, bool isNew)

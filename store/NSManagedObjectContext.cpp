@@ -162,7 +162,8 @@ void NSManagedObjectContext::writeChanges()
     if (!areValid) {
         throw NSError(QStringLiteral("NSManagedObjectContextErrorDomain"), 1,
                       ErrorText(QT_TRANSLATE_NOOP("NSError", "The changes could not be saved.")),
-                      ErrorText(QT_TRANSLATE_NOOP("NSError", "A record is not valid.")));
+                      ErrorText(QT_TRANSLATE_NOOP("NSError", "A record is not valid.")),
+                      ErrorText(QT_TRANSLATE_NOOP("NSError", "a record is not valid")));
     }
     const StoreChanges changes{insertedObjects(), updatedObjects(), deletedObjects()};
     if (!changes.isEmpty()) {

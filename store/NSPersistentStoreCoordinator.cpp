@@ -33,7 +33,8 @@ SQLiteStore& NSPersistentStoreCoordinator::store() const
 {
     if (!m_store) {
         throw NSError(QStringLiteral("NSPersistentStoreErrorDomain"), 1,
-                      ErrorText(QT_TRANSLATE_NOOP("NSError", "There is no data file.")));
+                      ErrorText(QT_TRANSLATE_NOOP("NSError", "There is no data file.")), {},
+                      ErrorText(QT_TRANSLATE_NOOP("NSError", "there is no data file")));
     }
     return *m_store;
 }

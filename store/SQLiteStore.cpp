@@ -60,7 +60,7 @@ FailureText failureText(int code)
                 QT_TRANSLATE_NOOP("NSError", "the data file is damaged")};
     case SQLITE_NOTADB:
         return {QT_TRANSLATE_NOOP("NSError", "The file “%1” is not a Corvane data file."),
-                QT_TRANSLATE_NOOP("NSError", "the data file is none of Corvane’s")};
+                QT_TRANSLATE_NOOP("NSError", "the file is not a Corvane data file")};
     case SQLITE_FULL:
         return {
             QT_TRANSLATE_NOOP("NSError", "There is no room left to save to the data file “%1”."),

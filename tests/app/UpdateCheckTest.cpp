@@ -185,7 +185,7 @@ TEST_F(UpdateCheckTest, saysWhyItCannotTell)
     serviceConnection.registerService(QStringLiteral("org.freedesktop.PackageKit"));
     EXPECT_EQ(answer(), QStringLiteral("||PackageKit cannot be asked: not you"));
     EXPECT_EQ(answerTo(QDBusConnection(QStringLiteral("nowhere"))),
-              QStringLiteral("||The system's message bus cannot be reached."));
+              QStringLiteral("||The system’s message bus cannot be reached."));
 }
 
 TEST_F(UpdateCheckTest, noticesThatPackageKitDies)
