@@ -60,11 +60,53 @@
     </message>
 </context>
 <context>
+    <name>AmountField</name>
+    <message>
+        <source>Amounts here are in %1, not in %2.</source>
+        <translation>المبالغ هنا بعملة ⁨%1⁩ وليست بعملة ⁨%2⁩.</translation>
+    </message>
+    <message>
+        <source>This can mean %1 or %2.</source>
+        <translation>قد يعني هذا ⁨%1⁩ أو ⁨%2⁩.</translation>
+    </message>
+    <message>
+        <source>An amount here has no decimals.</source>
+        <translation>المبلغ هنا بلا منازل عشرية.</translation>
+    </message>
+    <message numerus="yes">
+        <source>An amount here has at most %n decimals.</source>
+        <translation>
+            <numerusform>للمبلغ هنا %n منزلة عشرية على الأكثر.</numerusform>
+            <numerusform>للمبلغ هنا منزلة عشرية واحدة على الأكثر.</numerusform>
+            <numerusform>للمبلغ هنا منزلتان عشريتان على الأكثر.</numerusform>
+            <numerusform>للمبلغ هنا %n منازل عشرية على الأكثر.</numerusform>
+            <numerusform>للمبلغ هنا %n منزلة عشرية على الأكثر.</numerusform>
+            <numerusform>للمبلغ هنا %n منزلة عشرية على الأكثر.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Did you mean %1?</source>
+        <translation>هل تقصد ⁨%1⁩؟</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>two sentences</comment>
+        <translation>%1 %2</translation>
+    </message>
+</context>
+<context>
     <name>AnchoredBarButton</name>
     <message>
         <source>%1 (%2)</source>
         <comment>what it does, and its key</comment>
         <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>CVCard</name>
+    <message>
+        <source>Unnamed card</source>
+        <translation>بطاقة بلا اسم</translation>
     </message>
 </context>
 <context>
@@ -180,8 +222,20 @@
         <translation>هذا التاريخ لم يأت بعد.</translation>
     </message>
     <message>
-        <source>This month has a statement already.</source>
-        <translation>لهذا الشهر كشف بالفعل.</translation>
+        <source>%1 has a statement already, of %2.</source>
+        <translation>لشهر ⁨%1⁩ كشف بالفعل، بتاريخ ⁨%2⁩.</translation>
+    </message>
+    <message>
+        <source>The limit and the payment will become the balance, %1.</source>
+        <translation>سيصبح الحد الائتماني والدفعة مساويين للرصيد، ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>The limit will be raised to the balance, %1.</source>
+        <translation>سيُرفع الحد الائتماني إلى الرصيد، ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>A payment of nothing will become the whole balance, %1.</source>
+        <translation>الدفعة الصفرية ستصبح الرصيد كله، ⁨%1⁩.</translation>
     </message>
 </context>
 <context>
@@ -215,6 +269,10 @@
     <message>
         <source>Cancel</source>
         <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>إعادة المحاولة</translation>
     </message>
 </context>
 <context>
@@ -256,10 +314,24 @@
     </message>
 </context>
 <context>
+    <name>DemoStore</name>
+    <message>
+        <source>Demo, nothing is kept – Corvane</source>
+        <translation>عرض توضيحي، لا يُحفظ شيء – Corvane</translation>
+    </message>
+</context>
+<context>
     <name>DialogPresenter</name>
     <message>
         <source>OK</source>
         <translation>حسنًا</translation>
+    </message>
+</context>
+<context>
+    <name>DismissButton</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>إخفاء</translation>
     </message>
 </context>
 <context>
@@ -380,10 +452,6 @@
         <translation>لا توجد بطاقات بعد</translation>
     </message>
     <message>
-        <source>Add a card&apos;s statement with the + in its row, and another each month.</source>
-        <translation>أضف كشفًا للبطاقة بزر + في صفها، ثم كشفًا آخر كل شهر.</translation>
-    </message>
-    <message>
         <source>Add your first card with the + below the list, then a statement each month, and see the day you will be debt-free.</source>
         <translation>أضف بطاقتك الأولى بزر + أسفل القائمة، ثم كشفًا كل شهر، وسترى اليوم الذي تتخلص فيه من ديونك.</translation>
     </message>
@@ -412,14 +480,6 @@
         <translation>&amp;حذف البطاقة</translation>
     </message>
     <message>
-        <source>Card</source>
-        <translation>البطاقة</translation>
-    </message>
-    <message>
-        <source>Statement</source>
-        <translation>الكشف</translation>
-    </message>
-    <message>
         <source>Delete Statement</source>
         <translation>حذف الكشف</translation>
     </message>
@@ -428,20 +488,24 @@
         <translation>حذف البطاقة</translation>
     </message>
     <message>
-        <source>Edit Statement</source>
-        <translation>تعديل الكشف</translation>
+        <source>Save Again</source>
+        <translation>إعادة الحفظ</translation>
     </message>
     <message>
-        <source>Add Statement</source>
-        <translation>إضافة كشف</translation>
+        <source>Undo</source>
+        <translation>تراجع</translation>
     </message>
     <message>
-        <source>Edit Card</source>
-        <translation>تعديل البطاقة</translation>
+        <source>Redo</source>
+        <translation>إعادة</translation>
     </message>
     <message>
-        <source>Add Card</source>
-        <translation>إضافة بطاقة</translation>
+        <source>Continue</source>
+        <translation>متابعة</translation>
+    </message>
+    <message>
+        <source>Add a card’s statement with the + in its row, and another each month.</source>
+        <translation>أضف كشفًا للبطاقة بزر + في صفها، ثم كشفًا آخر كل شهر.</translation>
     </message>
 </context>
 <context>
@@ -522,6 +586,104 @@
         <source>SQLite reports: %1.</source>
         <translation>أبلغ SQLite: %1.</translation>
     </message>
+    <message>
+        <source>the data file is in use by another program</source>
+        <translation>يستخدم برنامج آخر ملف البيانات</translation>
+    </message>
+    <message>
+        <source>the data file is damaged</source>
+        <translation>ملف البيانات تالف</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>القرص ممتلئ</translation>
+    </message>
+    <message>
+        <source>the data file cannot be written</source>
+        <translation>لا يمكن الكتابة في ملف البيانات</translation>
+    </message>
+    <message>
+        <source>the data file could not be opened</source>
+        <translation>تعذّر فتح ملف البيانات</translation>
+    </message>
+    <message>
+        <source>the data file could not be written</source>
+        <translation>تعذّرت الكتابة في ملف البيانات</translation>
+    </message>
+    <message>
+        <source>a record is not valid</source>
+        <translation>أحد السجلات غير صالح</translation>
+    </message>
+    <message>
+        <source>there is no data file</source>
+        <translation>لا يوجد ملف بيانات</translation>
+    </message>
+    <message>
+        <source>the file is not a Corvane data file</source>
+        <translation>الملف ليس ملف بيانات خاصًا ببرنامج Corvane</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeText</name>
+    <message>
+        <source>Deleted %1</source>
+        <translation>حُذفت ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>Deleted %1 and its statement</source>
+        <translation>حُذفت ⁨%1⁩ مع كشفها</translation>
+    </message>
+    <message numerus="yes">
+        <source>Deleted %1 and its %n statements</source>
+        <translation>
+            <numerusform>حُذفت ⁨%1⁩ مع %n كشف</numerusform>
+            <numerusform>حُذفت ⁨%1⁩ مع كشفها</numerusform>
+            <numerusform>حُذفت ⁨%1⁩ مع كشفيها</numerusform>
+            <numerusform>حُذفت ⁨%1⁩ مع %n كشوف</numerusform>
+            <numerusform>حُذفت ⁨%1⁩ مع %n كشفًا</numerusform>
+            <numerusform>حُذفت ⁨%1⁩ مع %n كشف</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Deleted the statement of %1 for %2</source>
+        <translation>حُذف كشف ⁨%2⁩ بتاريخ ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>The new card was not added</source>
+        <translation>لم تُضف البطاقة الجديدة</translation>
+    </message>
+    <message>
+        <source>The statement for %1 was not added</source>
+        <translation>لم يُضف كشف ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>Added %1</source>
+        <translation>أُضيفت ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>Changed %1</source>
+        <translation>عُدّلت ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>Not saved: %1</source>
+        <translation>لم تُحفظ التغييرات: %1</translation>
+    </message>
+    <message>
+        <source>The statement is gone, so the editor was closed</source>
+        <translation>لم يعد الكشف موجودًا، لذا أُغلقت نافذة التعديل</translation>
+    </message>
+    <message>
+        <source>The card is gone, so the editor was closed</source>
+        <translation>لم تعد البطاقة موجودة، لذا أُغلقت نافذة التعديل</translation>
+    </message>
+    <message>
+        <source>%1 was not changed</source>
+        <translation>لم تُعدَّل ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>The statement of %1 for %2 was not changed</source>
+        <translation>لم يُعدَّل كشف ⁨%2⁩ بتاريخ ⁨%1⁩</translation>
+    </message>
 </context>
 <context>
     <name>NumberField</name>
@@ -564,6 +726,36 @@
     </message>
 </context>
 <context>
+    <name>OpenCardEditor</name>
+    <message>
+        <source>Card</source>
+        <translation>البطاقة</translation>
+    </message>
+    <message>
+        <source>Add Card</source>
+        <translation>إضافة بطاقة</translation>
+    </message>
+    <message>
+        <source>Edit Card</source>
+        <translation>تعديل البطاقة</translation>
+    </message>
+</context>
+<context>
+    <name>OpenStatementEditor</name>
+    <message>
+        <source>Statement</source>
+        <translation>الكشف</translation>
+    </message>
+    <message>
+        <source>Add Statement</source>
+        <translation>إضافة كشف</translation>
+    </message>
+    <message>
+        <source>Edit Statement</source>
+        <translation>تعديل الكشف</translation>
+    </message>
+</context>
+<context>
     <name>PackageTransaction</name>
     <message>
         <source>PackageKit, which knows the packages of this system, is not installed.</source>
@@ -572,10 +764,6 @@
     <message>
         <source>PackageKit does not answer.</source>
         <translation>لا يستجيب PackageKit.</translation>
-    </message>
-    <message>
-        <source>The system&apos;s message bus cannot be reached.</source>
-        <translation>تعذّر الوصول إلى ناقل رسائل النظام.</translation>
     </message>
     <message>
         <source>PackageKit cannot be asked: %1</source>
@@ -592,6 +780,10 @@
     <message>
         <source>PackageKit gave up.</source>
         <translation>تخلّى PackageKit عن المحاولة.</translation>
+    </message>
+    <message>
+        <source>The system’s message bus cannot be reached.</source>
+        <translation>تعذّر الوصول إلى ناقل رسائل النظام.</translation>
     </message>
 </context>
 <context>
@@ -671,12 +863,12 @@
         <translation>لا يستجيب PackageKit.</translation>
     </message>
     <message>
-        <source>The system&apos;s message bus cannot be reached.</source>
-        <translation>تعذّر الوصول إلى ناقل رسائل النظام.</translation>
-    </message>
-    <message>
         <source>Corvane was not installed as a package, so this system knows of no newer one.</source>
         <translation>لم يُثبَّت Corvane كحزمة، لذلك لا يعرف هذا النظام حزمة أحدث.</translation>
+    </message>
+    <message>
+        <source>The system’s message bus cannot be reached.</source>
+        <translation>تعذّر الوصول إلى ناقل رسائل النظام.</translation>
     </message>
 </context>
 <context>

@@ -60,11 +60,49 @@
     </message>
 </context>
 <context>
+    <name>AmountField</name>
+    <message>
+        <source>Amounts here are in %1, not in %2.</source>
+        <translation>Beträge sind hier in %1, nicht in %2.</translation>
+    </message>
+    <message>
+        <source>This can mean %1 or %2.</source>
+        <translation>Das kann %1 oder %2 heißen.</translation>
+    </message>
+    <message>
+        <source>An amount here has no decimals.</source>
+        <translation>Hier sind keine Nachkommastellen möglich.</translation>
+    </message>
+    <message numerus="yes">
+        <source>An amount here has at most %n decimals.</source>
+        <translation>
+            <numerusform>Hier ist nur %n Nachkommastelle möglich.</numerusform>
+            <numerusform>Hier sind nur %n Nachkommastellen möglich.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Did you mean %1?</source>
+        <translation>Meinten Sie %1?</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>two sentences</comment>
+        <translation>%1 %2</translation>
+    </message>
+</context>
+<context>
     <name>AnchoredBarButton</name>
     <message>
         <source>%1 (%2)</source>
         <comment>what it does, and its key</comment>
         <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>CVCard</name>
+    <message>
+        <source>Unnamed card</source>
+        <translation>Unbenannte Karte</translation>
     </message>
 </context>
 <context>
@@ -180,8 +218,20 @@
         <translation>Dieses Datum liegt in der Zukunft.</translation>
     </message>
     <message>
-        <source>This month has a statement already.</source>
-        <translation>Dieser Monat hat schon eine Abrechnung.</translation>
+        <source>%1 has a statement already, of %2.</source>
+        <translation>%1 hat schon eine Abrechnung, vom %2.</translation>
+    </message>
+    <message>
+        <source>The limit and the payment will become the balance, %1.</source>
+        <translation>Limit und Zahlung werden auf den Saldo von %1 gesetzt.</translation>
+    </message>
+    <message>
+        <source>The limit will be raised to the balance, %1.</source>
+        <translation>Das Limit wird auf den Saldo von %1 angehoben.</translation>
+    </message>
+    <message>
+        <source>A payment of nothing will become the whole balance, %1.</source>
+        <translation>Eine Zahlung von null wird durch den ganzen Saldo von %1 ersetzt.</translation>
     </message>
 </context>
 <context>
@@ -215,6 +265,10 @@
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Erneut versuchen</translation>
     </message>
 </context>
 <context>
@@ -252,10 +306,24 @@
     </message>
 </context>
 <context>
+    <name>DemoStore</name>
+    <message>
+        <source>Demo, nothing is kept – Corvane</source>
+        <translation>Demo, nichts wird gespeichert – Corvane</translation>
+    </message>
+</context>
+<context>
     <name>DialogPresenter</name>
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>DismissButton</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>Ausblenden</translation>
     </message>
 </context>
 <context>
@@ -376,10 +444,6 @@
         <translation>Noch keine Karten</translation>
     </message>
     <message>
-        <source>Add a card&apos;s statement with the + in its row, and another each month.</source>
-        <translation>Fügen Sie mit dem + in der Zeile einer Karte deren Abrechnung hinzu, und jeden Monat eine weitere.</translation>
-    </message>
-    <message>
         <source>Add your first card with the + below the list, then a statement each month, and see the day you will be debt-free.</source>
         <translation>Fügen Sie mit dem + unter der Liste Ihre erste Karte hinzu, dann jeden Monat eine Abrechnung, und sehen Sie, wann Sie schuldenfrei sind.</translation>
     </message>
@@ -408,14 +472,6 @@
         <translation>Karte &amp;löschen</translation>
     </message>
     <message>
-        <source>Card</source>
-        <translation>Karte</translation>
-    </message>
-    <message>
-        <source>Statement</source>
-        <translation>Abrechnung</translation>
-    </message>
-    <message>
         <source>Delete Statement</source>
         <translation>Abrechnung löschen</translation>
     </message>
@@ -424,20 +480,24 @@
         <translation>Karte löschen</translation>
     </message>
     <message>
-        <source>Edit Statement</source>
-        <translation>Abrechnung ändern</translation>
+        <source>Save Again</source>
+        <translation>Erneut speichern</translation>
     </message>
     <message>
-        <source>Add Statement</source>
-        <translation>Abrechnung hinzufügen</translation>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
     </message>
     <message>
-        <source>Edit Card</source>
-        <translation>Karte ändern</translation>
+        <source>Redo</source>
+        <translation>Wiederherstellen</translation>
     </message>
     <message>
-        <source>Add Card</source>
-        <translation>Karte hinzufügen</translation>
+        <source>Continue</source>
+        <translation>Fortsetzen</translation>
+    </message>
+    <message>
+        <source>Add a card’s statement with the + in its row, and another each month.</source>
+        <translation>Fügen Sie mit dem + in der Zeile einer Karte deren Abrechnung hinzu, und jeden Monat eine weitere.</translation>
     </message>
 </context>
 <context>
@@ -518,6 +578,100 @@
         <source>SQLite reports: %1.</source>
         <translation>SQLite meldet: %1.</translation>
     </message>
+    <message>
+        <source>the data file is in use by another program</source>
+        <translation>ein anderes Programm verwendet die Datendatei</translation>
+    </message>
+    <message>
+        <source>the data file is damaged</source>
+        <translation>die Datendatei ist beschädigt</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>der Datenträger ist voll</translation>
+    </message>
+    <message>
+        <source>the data file cannot be written</source>
+        <translation>die Datendatei ist nicht beschreibbar</translation>
+    </message>
+    <message>
+        <source>the data file could not be opened</source>
+        <translation>die Datendatei ließ sich nicht öffnen</translation>
+    </message>
+    <message>
+        <source>the data file could not be written</source>
+        <translation>die Datendatei ließ sich nicht schreiben</translation>
+    </message>
+    <message>
+        <source>a record is not valid</source>
+        <translation>ein Eintrag ist ungültig</translation>
+    </message>
+    <message>
+        <source>there is no data file</source>
+        <translation>es gibt keine Datendatei</translation>
+    </message>
+    <message>
+        <source>the file is not a Corvane data file</source>
+        <translation>die Datei ist keine Datendatei von Corvane</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeText</name>
+    <message>
+        <source>Deleted %1</source>
+        <translation>%1 gelöscht</translation>
+    </message>
+    <message>
+        <source>Deleted %1 and its statement</source>
+        <translation>%1 mit der Abrechnung gelöscht</translation>
+    </message>
+    <message numerus="yes">
+        <source>Deleted %1 and its %n statements</source>
+        <translation>
+            <numerusform>%1 mit %n Abrechnung gelöscht</numerusform>
+            <numerusform>%1 mit %n Abrechnungen gelöscht</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Deleted the statement of %1 for %2</source>
+        <translation>Abrechnung vom %1 für %2 gelöscht</translation>
+    </message>
+    <message>
+        <source>The new card was not added</source>
+        <translation>Die neue Karte wurde nicht hinzugefügt</translation>
+    </message>
+    <message>
+        <source>The statement for %1 was not added</source>
+        <translation>Die Abrechnung für %1 wurde nicht hinzugefügt</translation>
+    </message>
+    <message>
+        <source>Added %1</source>
+        <translation>%1 hinzugefügt</translation>
+    </message>
+    <message>
+        <source>Changed %1</source>
+        <translation>%1 geändert</translation>
+    </message>
+    <message>
+        <source>Not saved: %1</source>
+        <translation>Nicht gespeichert: %1</translation>
+    </message>
+    <message>
+        <source>The statement is gone, so the editor was closed</source>
+        <translation>Formular geschlossen, denn die Abrechnung gibt es nicht mehr</translation>
+    </message>
+    <message>
+        <source>The card is gone, so the editor was closed</source>
+        <translation>Formular geschlossen, denn die Karte gibt es nicht mehr</translation>
+    </message>
+    <message>
+        <source>%1 was not changed</source>
+        <translation>%1 wurde nicht geändert</translation>
+    </message>
+    <message>
+        <source>The statement of %1 for %2 was not changed</source>
+        <translation>Abrechnung vom %1 für %2 nicht geändert</translation>
+    </message>
 </context>
 <context>
     <name>NumberField</name>
@@ -560,6 +714,36 @@
     </message>
 </context>
 <context>
+    <name>OpenCardEditor</name>
+    <message>
+        <source>Card</source>
+        <translation>Karte</translation>
+    </message>
+    <message>
+        <source>Add Card</source>
+        <translation>Karte hinzufügen</translation>
+    </message>
+    <message>
+        <source>Edit Card</source>
+        <translation>Karte ändern</translation>
+    </message>
+</context>
+<context>
+    <name>OpenStatementEditor</name>
+    <message>
+        <source>Statement</source>
+        <translation>Abrechnung</translation>
+    </message>
+    <message>
+        <source>Add Statement</source>
+        <translation>Abrechnung hinzufügen</translation>
+    </message>
+    <message>
+        <source>Edit Statement</source>
+        <translation>Abrechnung ändern</translation>
+    </message>
+</context>
+<context>
     <name>PackageTransaction</name>
     <message>
         <source>PackageKit, which knows the packages of this system, is not installed.</source>
@@ -568,10 +752,6 @@
     <message>
         <source>PackageKit does not answer.</source>
         <translation>PackageKit antwortet nicht.</translation>
-    </message>
-    <message>
-        <source>The system&apos;s message bus cannot be reached.</source>
-        <translation>Der Nachrichtenbus des Systems ist nicht erreichbar.</translation>
     </message>
     <message>
         <source>PackageKit cannot be asked: %1</source>
@@ -588,6 +768,10 @@
     <message>
         <source>PackageKit gave up.</source>
         <translation>PackageKit hat aufgegeben.</translation>
+    </message>
+    <message>
+        <source>The system’s message bus cannot be reached.</source>
+        <translation>Der Nachrichtenbus des Systems ist nicht erreichbar.</translation>
     </message>
 </context>
 <context>
@@ -667,12 +851,12 @@
         <translation>PackageKit antwortet nicht.</translation>
     </message>
     <message>
-        <source>The system&apos;s message bus cannot be reached.</source>
-        <translation>Der Nachrichtenbus des Systems ist nicht erreichbar.</translation>
-    </message>
-    <message>
         <source>Corvane was not installed as a package, so this system knows of no newer one.</source>
         <translation>Corvane wurde nicht als Paket installiert, daher kennt dieses System kein neueres.</translation>
+    </message>
+    <message>
+        <source>The system’s message bus cannot be reached.</source>
+        <translation>Der Nachrichtenbus des Systems ist nicht erreichbar.</translation>
     </message>
 </context>
 <context>

@@ -60,11 +60,49 @@
     </message>
 </context>
 <context>
+    <name>AmountField</name>
+    <message>
+        <source>Amounts here are in %1, not in %2.</source>
+        <translation>Los importes aquí son en %1, no en %2.</translation>
+    </message>
+    <message>
+        <source>This can mean %1 or %2.</source>
+        <translation>Esto puede significar %1 o bien %2.</translation>
+    </message>
+    <message>
+        <source>An amount here has no decimals.</source>
+        <translation>Aquí un importe no tiene decimales.</translation>
+    </message>
+    <message numerus="yes">
+        <source>An amount here has at most %n decimals.</source>
+        <translation>
+            <numerusform>Aquí un importe tiene como máximo %n decimal.</numerusform>
+            <numerusform>Aquí un importe tiene como máximo %n decimales.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Did you mean %1?</source>
+        <translation>¿Quería decir %1?</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>two sentences</comment>
+        <translation>%1 %2</translation>
+    </message>
+</context>
+<context>
     <name>AnchoredBarButton</name>
     <message>
         <source>%1 (%2)</source>
         <comment>what it does, and its key</comment>
         <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>CVCard</name>
+    <message>
+        <source>Unnamed card</source>
+        <translation>Tarjeta sin nombre</translation>
     </message>
 </context>
 <context>
@@ -180,8 +218,20 @@
         <translation>Esta fecha aún no ha llegado.</translation>
     </message>
     <message>
-        <source>This month has a statement already.</source>
-        <translation>Este mes ya tiene un extracto.</translation>
+        <source>%1 has a statement already, of %2.</source>
+        <translation>Ya hay un extracto de %1, el del %2.</translation>
+    </message>
+    <message>
+        <source>The limit and the payment will become the balance, %1.</source>
+        <translation>El límite y el pago pasarán a ser el saldo, %1.</translation>
+    </message>
+    <message>
+        <source>The limit will be raised to the balance, %1.</source>
+        <translation>El límite se elevará al saldo, %1.</translation>
+    </message>
+    <message>
+        <source>A payment of nothing will become the whole balance, %1.</source>
+        <translation>Un pago de cero se sustituirá por el saldo entero, %1.</translation>
     </message>
 </context>
 <context>
@@ -215,6 +265,10 @@
     <message>
         <source>Cancel</source>
         <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Reintentar</translation>
     </message>
 </context>
 <context>
@@ -252,10 +306,24 @@
     </message>
 </context>
 <context>
+    <name>DemoStore</name>
+    <message>
+        <source>Demo, nothing is kept – Corvane</source>
+        <translation>Demostración, no se guarda nada – Corvane</translation>
+    </message>
+</context>
+<context>
     <name>DialogPresenter</name>
     <message>
         <source>OK</source>
         <translation>Aceptar</translation>
+    </message>
+</context>
+<context>
+    <name>DismissButton</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>Ocultar</translation>
     </message>
 </context>
 <context>
@@ -376,10 +444,6 @@
         <translation>Aún no hay tarjetas</translation>
     </message>
     <message>
-        <source>Add a card&apos;s statement with the + in its row, and another each month.</source>
-        <translation>Añada un extracto con el + de la fila de una tarjeta, y otro cada mes.</translation>
-    </message>
-    <message>
         <source>Add your first card with the + below the list, then a statement each month, and see the day you will be debt-free.</source>
         <translation>Añada su primera tarjeta con el + que hay bajo la lista y después un extracto cada mes, y verá el día en que quedará libre de deudas.</translation>
     </message>
@@ -408,14 +472,6 @@
         <translation>&amp;Eliminar tarjeta</translation>
     </message>
     <message>
-        <source>Card</source>
-        <translation>Tarjeta</translation>
-    </message>
-    <message>
-        <source>Statement</source>
-        <translation>Extracto</translation>
-    </message>
-    <message>
         <source>Delete Statement</source>
         <translation>Eliminar extracto</translation>
     </message>
@@ -424,20 +480,24 @@
         <translation>Eliminar tarjeta</translation>
     </message>
     <message>
-        <source>Edit Statement</source>
-        <translation>Modificar extracto</translation>
+        <source>Save Again</source>
+        <translation>Guardar de nuevo</translation>
     </message>
     <message>
-        <source>Add Statement</source>
-        <translation>Añadir extracto</translation>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
     </message>
     <message>
-        <source>Edit Card</source>
-        <translation>Modificar tarjeta</translation>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
     </message>
     <message>
-        <source>Add Card</source>
-        <translation>Añadir tarjeta</translation>
+        <source>Continue</source>
+        <translation>Continuar</translation>
+    </message>
+    <message>
+        <source>Add a card’s statement with the + in its row, and another each month.</source>
+        <translation>Añada un extracto con el + de la fila de una tarjeta, y otro cada mes.</translation>
     </message>
 </context>
 <context>
@@ -518,6 +578,100 @@
         <source>SQLite reports: %1.</source>
         <translation>SQLite informa: %1.</translation>
     </message>
+    <message>
+        <source>the data file is in use by another program</source>
+        <translation>otro programa está usando el archivo de datos</translation>
+    </message>
+    <message>
+        <source>the data file is damaged</source>
+        <translation>el archivo de datos está dañado</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>el disco está lleno</translation>
+    </message>
+    <message>
+        <source>the data file cannot be written</source>
+        <translation>no se puede escribir en el archivo de datos</translation>
+    </message>
+    <message>
+        <source>the data file could not be opened</source>
+        <translation>no se ha podido abrir el archivo de datos</translation>
+    </message>
+    <message>
+        <source>the data file could not be written</source>
+        <translation>no se ha podido escribir el archivo de datos</translation>
+    </message>
+    <message>
+        <source>a record is not valid</source>
+        <translation>un registro no es válido</translation>
+    </message>
+    <message>
+        <source>there is no data file</source>
+        <translation>no hay ningún archivo de datos</translation>
+    </message>
+    <message>
+        <source>the file is not a Corvane data file</source>
+        <translation>el archivo no es un archivo de datos de Corvane</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeText</name>
+    <message>
+        <source>Deleted %1</source>
+        <translation>Se ha eliminado %1</translation>
+    </message>
+    <message>
+        <source>Deleted %1 and its statement</source>
+        <translation>Se ha eliminado %1 con su extracto</translation>
+    </message>
+    <message numerus="yes">
+        <source>Deleted %1 and its %n statements</source>
+        <translation>
+            <numerusform>Se ha eliminado %1 con su extracto</numerusform>
+            <numerusform>Se ha eliminado %1 con sus %n extractos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Deleted the statement of %1 for %2</source>
+        <translation>Se ha eliminado el extracto del %1 de %2</translation>
+    </message>
+    <message>
+        <source>The new card was not added</source>
+        <translation>No se ha añadido la nueva tarjeta</translation>
+    </message>
+    <message>
+        <source>The statement for %1 was not added</source>
+        <translation>No se ha añadido el extracto de %1</translation>
+    </message>
+    <message>
+        <source>Added %1</source>
+        <translation>Se ha añadido %1</translation>
+    </message>
+    <message>
+        <source>Changed %1</source>
+        <translation>Se ha modificado %1</translation>
+    </message>
+    <message>
+        <source>Not saved: %1</source>
+        <translation>No se ha guardado: %1</translation>
+    </message>
+    <message>
+        <source>The statement is gone, so the editor was closed</source>
+        <translation>El extracto ya no existe, así que se ha cerrado el formulario</translation>
+    </message>
+    <message>
+        <source>The card is gone, so the editor was closed</source>
+        <translation>La tarjeta ya no existe, así que se ha cerrado el formulario</translation>
+    </message>
+    <message>
+        <source>%1 was not changed</source>
+        <translation>No se ha modificado %1</translation>
+    </message>
+    <message>
+        <source>The statement of %1 for %2 was not changed</source>
+        <translation>No se ha modificado el extracto del %1 de %2</translation>
+    </message>
 </context>
 <context>
     <name>NumberField</name>
@@ -560,6 +714,36 @@
     </message>
 </context>
 <context>
+    <name>OpenCardEditor</name>
+    <message>
+        <source>Card</source>
+        <translation>Tarjeta</translation>
+    </message>
+    <message>
+        <source>Add Card</source>
+        <translation>Añadir tarjeta</translation>
+    </message>
+    <message>
+        <source>Edit Card</source>
+        <translation>Modificar tarjeta</translation>
+    </message>
+</context>
+<context>
+    <name>OpenStatementEditor</name>
+    <message>
+        <source>Statement</source>
+        <translation>Extracto</translation>
+    </message>
+    <message>
+        <source>Add Statement</source>
+        <translation>Añadir extracto</translation>
+    </message>
+    <message>
+        <source>Edit Statement</source>
+        <translation>Modificar extracto</translation>
+    </message>
+</context>
+<context>
     <name>PackageTransaction</name>
     <message>
         <source>PackageKit, which knows the packages of this system, is not installed.</source>
@@ -568,10 +752,6 @@
     <message>
         <source>PackageKit does not answer.</source>
         <translation>PackageKit no responde.</translation>
-    </message>
-    <message>
-        <source>The system&apos;s message bus cannot be reached.</source>
-        <translation>No se puede acceder al bus de mensajes del sistema.</translation>
     </message>
     <message>
         <source>PackageKit cannot be asked: %1</source>
@@ -588,6 +768,10 @@
     <message>
         <source>PackageKit gave up.</source>
         <translation>PackageKit ha desistido.</translation>
+    </message>
+    <message>
+        <source>The system’s message bus cannot be reached.</source>
+        <translation>No se puede acceder al bus de mensajes del sistema.</translation>
     </message>
 </context>
 <context>
@@ -667,12 +851,12 @@
         <translation>PackageKit no responde.</translation>
     </message>
     <message>
-        <source>The system&apos;s message bus cannot be reached.</source>
-        <translation>No se puede acceder al bus de mensajes del sistema.</translation>
-    </message>
-    <message>
         <source>Corvane was not installed as a package, so this system knows of no newer one.</source>
         <translation>Corvane no se instaló como paquete, así que este sistema no conoce ninguno más reciente.</translation>
+    </message>
+    <message>
+        <source>The system’s message bus cannot be reached.</source>
+        <translation>No se puede acceder al bus de mensajes del sistema.</translation>
     </message>
 </context>
 <context>

@@ -60,11 +60,49 @@
     </message>
 </context>
 <context>
+    <name>AmountField</name>
+    <message>
+        <source>Amounts here are in %1, not in %2.</source>
+        <translation>Les montants sont ici en %1, pas en %2.</translation>
+    </message>
+    <message>
+        <source>This can mean %1 or %2.</source>
+        <translation>Cela peut vouloir dire %1 ou %2.</translation>
+    </message>
+    <message>
+        <source>An amount here has no decimals.</source>
+        <translation>Un montant n’a pas de décimales ici.</translation>
+    </message>
+    <message numerus="yes">
+        <source>An amount here has at most %n decimals.</source>
+        <translation>
+            <numerusform>Un montant a ici au plus %n décimale.</numerusform>
+            <numerusform>Un montant a ici au plus %n décimales.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Did you mean %1?</source>
+        <translation>Vouliez-vous dire %1&#xa0;?</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>two sentences</comment>
+        <translation>%1 %2</translation>
+    </message>
+</context>
+<context>
     <name>AnchoredBarButton</name>
     <message>
         <source>%1 (%2)</source>
         <comment>what it does, and its key</comment>
         <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>CVCard</name>
+    <message>
+        <source>Unnamed card</source>
+        <translation>Carte sans nom</translation>
     </message>
 </context>
 <context>
@@ -180,8 +218,20 @@
         <translation>Cette date est à venir.</translation>
     </message>
     <message>
-        <source>This month has a statement already.</source>
-        <translation>Ce mois a déjà un relevé.</translation>
+        <source>%1 has a statement already, of %2.</source>
+        <translation>Il y a déjà un relevé pour %1, celui du %2.</translation>
+    </message>
+    <message>
+        <source>The limit and the payment will become the balance, %1.</source>
+        <translation>Le plafond et le paiement seront portés au solde, %1.</translation>
+    </message>
+    <message>
+        <source>The limit will be raised to the balance, %1.</source>
+        <translation>Le plafond sera porté au solde, %1.</translation>
+    </message>
+    <message>
+        <source>A payment of nothing will become the whole balance, %1.</source>
+        <translation>Un paiement nul sera remplacé par le solde entier, %1.</translation>
     </message>
 </context>
 <context>
@@ -215,6 +265,10 @@
     <message>
         <source>Cancel</source>
         <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Réessayer</translation>
     </message>
 </context>
 <context>
@@ -252,10 +306,24 @@
     </message>
 </context>
 <context>
+    <name>DemoStore</name>
+    <message>
+        <source>Demo, nothing is kept – Corvane</source>
+        <translation>Démo, rien n’est conservé – Corvane</translation>
+    </message>
+</context>
+<context>
     <name>DialogPresenter</name>
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>DismissButton</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>Masquer</translation>
     </message>
 </context>
 <context>
@@ -376,10 +444,6 @@
         <translation>Aucune carte pour l’instant</translation>
     </message>
     <message>
-        <source>Add a card&apos;s statement with the + in its row, and another each month.</source>
-        <translation>Ajoutez un relevé avec le + de la ligne d’une carte, puis un autre chaque mois.</translation>
-    </message>
-    <message>
         <source>Add your first card with the + below the list, then a statement each month, and see the day you will be debt-free.</source>
         <translation>Ajoutez votre première carte avec le + sous la liste, puis un relevé chaque mois, et voyez le jour où vous n’aurez plus de dettes.</translation>
     </message>
@@ -408,14 +472,6 @@
         <translation>&amp;Supprimer la carte</translation>
     </message>
     <message>
-        <source>Card</source>
-        <translation>Carte</translation>
-    </message>
-    <message>
-        <source>Statement</source>
-        <translation>Relevé</translation>
-    </message>
-    <message>
         <source>Delete Statement</source>
         <translation>Supprimer le relevé</translation>
     </message>
@@ -424,20 +480,24 @@
         <translation>Supprimer la carte</translation>
     </message>
     <message>
-        <source>Edit Statement</source>
-        <translation>Modifier le relevé</translation>
+        <source>Save Again</source>
+        <translation>Réessayer</translation>
     </message>
     <message>
-        <source>Add Statement</source>
-        <translation>Ajouter un relevé</translation>
+        <source>Undo</source>
+        <translation>Annuler</translation>
     </message>
     <message>
-        <source>Edit Card</source>
-        <translation>Modifier la carte</translation>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
     </message>
     <message>
-        <source>Add Card</source>
-        <translation>Ajouter une carte</translation>
+        <source>Continue</source>
+        <translation>Reprendre</translation>
+    </message>
+    <message>
+        <source>Add a card’s statement with the + in its row, and another each month.</source>
+        <translation>Ajoutez un relevé avec le + de la ligne d’une carte, puis un autre chaque mois.</translation>
     </message>
 </context>
 <context>
@@ -518,6 +578,100 @@
         <source>SQLite reports: %1.</source>
         <translation>SQLite signale&#xa0;: %1.</translation>
     </message>
+    <message>
+        <source>the data file is in use by another program</source>
+        <translation>un autre programme utilise le fichier de données</translation>
+    </message>
+    <message>
+        <source>the data file is damaged</source>
+        <translation>le fichier de données est endommagé</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>le disque est plein</translation>
+    </message>
+    <message>
+        <source>the data file cannot be written</source>
+        <translation>impossible d’écrire dans le fichier de données</translation>
+    </message>
+    <message>
+        <source>the data file could not be opened</source>
+        <translation>le fichier de données n’a pas pu être ouvert</translation>
+    </message>
+    <message>
+        <source>the data file could not be written</source>
+        <translation>le fichier de données n’a pas pu être écrit</translation>
+    </message>
+    <message>
+        <source>a record is not valid</source>
+        <translation>un enregistrement n’est pas valide</translation>
+    </message>
+    <message>
+        <source>there is no data file</source>
+        <translation>il n’y a pas de fichier de données</translation>
+    </message>
+    <message>
+        <source>the file is not a Corvane data file</source>
+        <translation>le fichier n’est pas un fichier de données de Corvane</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeText</name>
+    <message>
+        <source>Deleted %1</source>
+        <translation>Carte supprimée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Deleted %1 and its statement</source>
+        <translation>Carte supprimée avec son relevé&#xa0;: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Deleted %1 and its %n statements</source>
+        <translation>
+            <numerusform>Carte supprimée avec %n relevé&#xa0;: %1</numerusform>
+            <numerusform>Carte supprimée avec ses %n relevés&#xa0;: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Deleted the statement of %1 for %2</source>
+        <translation>Relevé du %1 pour %2 supprimé</translation>
+    </message>
+    <message>
+        <source>The new card was not added</source>
+        <translation>La nouvelle carte n’a pas été ajoutée</translation>
+    </message>
+    <message>
+        <source>The statement for %1 was not added</source>
+        <translation>Le relevé pour %1 n’a pas été ajouté</translation>
+    </message>
+    <message>
+        <source>Added %1</source>
+        <translation>Carte ajoutée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Changed %1</source>
+        <translation>Carte modifiée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Not saved: %1</source>
+        <translation>Non enregistré&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The statement is gone, so the editor was closed</source>
+        <translation>Le relevé n’existe plus, le formulaire a donc été fermé</translation>
+    </message>
+    <message>
+        <source>The card is gone, so the editor was closed</source>
+        <translation>La carte n’existe plus, le formulaire a donc été fermé</translation>
+    </message>
+    <message>
+        <source>%1 was not changed</source>
+        <translation>Carte non modifiée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The statement of %1 for %2 was not changed</source>
+        <translation>Relevé du %1 pour %2 non modifié</translation>
+    </message>
 </context>
 <context>
     <name>NumberField</name>
@@ -560,6 +714,36 @@
     </message>
 </context>
 <context>
+    <name>OpenCardEditor</name>
+    <message>
+        <source>Card</source>
+        <translation>Carte</translation>
+    </message>
+    <message>
+        <source>Add Card</source>
+        <translation>Ajouter une carte</translation>
+    </message>
+    <message>
+        <source>Edit Card</source>
+        <translation>Modifier la carte</translation>
+    </message>
+</context>
+<context>
+    <name>OpenStatementEditor</name>
+    <message>
+        <source>Statement</source>
+        <translation>Relevé</translation>
+    </message>
+    <message>
+        <source>Add Statement</source>
+        <translation>Ajouter un relevé</translation>
+    </message>
+    <message>
+        <source>Edit Statement</source>
+        <translation>Modifier le relevé</translation>
+    </message>
+</context>
+<context>
     <name>PackageTransaction</name>
     <message>
         <source>PackageKit, which knows the packages of this system, is not installed.</source>
@@ -568,10 +752,6 @@
     <message>
         <source>PackageKit does not answer.</source>
         <translation>PackageKit ne répond pas.</translation>
-    </message>
-    <message>
-        <source>The system&apos;s message bus cannot be reached.</source>
-        <translation>Le bus de messages du système est injoignable.</translation>
     </message>
     <message>
         <source>PackageKit cannot be asked: %1</source>
@@ -588,6 +768,10 @@
     <message>
         <source>PackageKit gave up.</source>
         <translation>PackageKit a abandonné.</translation>
+    </message>
+    <message>
+        <source>The system’s message bus cannot be reached.</source>
+        <translation>Le bus de messages du système est injoignable.</translation>
     </message>
 </context>
 <context>
@@ -667,12 +851,12 @@
         <translation>PackageKit ne répond pas.</translation>
     </message>
     <message>
-        <source>The system&apos;s message bus cannot be reached.</source>
-        <translation>Le bus de messages du système est injoignable.</translation>
-    </message>
-    <message>
         <source>Corvane was not installed as a package, so this system knows of no newer one.</source>
         <translation>Corvane n’a pas été installé comme paquet&#xa0;; ce système n’en connaît donc pas de plus récent.</translation>
+    </message>
+    <message>
+        <source>The system’s message bus cannot be reached.</source>
+        <translation>Le bus de messages du système est injoignable.</translation>
     </message>
 </context>
 <context>

@@ -60,11 +60,48 @@
     </message>
 </context>
 <context>
+    <name>AmountField</name>
+    <message>
+        <source>Amounts here are in %1, not in %2.</source>
+        <translation>此处的金额以 %1 计，不是 %2。</translation>
+    </message>
+    <message>
+        <source>This can mean %1 or %2.</source>
+        <translation>这可能是 %1，也可能是 %2。</translation>
+    </message>
+    <message>
+        <source>An amount here has no decimals.</source>
+        <translation>此处的金额没有小数。</translation>
+    </message>
+    <message numerus="yes">
+        <source>An amount here has at most %n decimals.</source>
+        <translation>
+            <numerusform>此处的金额最多有 %n 位小数。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Did you mean %1?</source>
+        <translation>您是指 %1 吗？</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>two sentences</comment>
+        <translation>%1%2</translation>
+    </message>
+</context>
+<context>
     <name>AnchoredBarButton</name>
     <message>
         <source>%1 (%2)</source>
         <comment>what it does, and its key</comment>
         <translation>%1（%2）</translation>
+    </message>
+</context>
+<context>
+    <name>CVCard</name>
+    <message>
+        <source>Unnamed card</source>
+        <translation>未命名卡片</translation>
     </message>
 </context>
 <context>
@@ -180,8 +217,20 @@
         <translation>此日期还没有到。</translation>
     </message>
     <message>
-        <source>This month has a statement already.</source>
-        <translation>这个月已有账单。</translation>
+        <source>%1 has a statement already, of %2.</source>
+        <translation>%1 已有账单，日期为 %2。</translation>
+    </message>
+    <message>
+        <source>The limit and the payment will become the balance, %1.</source>
+        <translation>额度和还款将改为余额 %1。</translation>
+    </message>
+    <message>
+        <source>The limit will be raised to the balance, %1.</source>
+        <translation>额度将提高到余额 %1。</translation>
+    </message>
+    <message>
+        <source>A payment of nothing will become the whole balance, %1.</source>
+        <translation>还款为零时将改为全部余额 %1。</translation>
     </message>
 </context>
 <context>
@@ -215,6 +264,10 @@
     <message>
         <source>Cancel</source>
         <translation>取消</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>重试</translation>
     </message>
 </context>
 <context>
@@ -251,10 +304,24 @@
     </message>
 </context>
 <context>
+    <name>DemoStore</name>
+    <message>
+        <source>Demo, nothing is kept – Corvane</source>
+        <translation>演示，不会保留任何内容 – Corvane</translation>
+    </message>
+</context>
+<context>
     <name>DialogPresenter</name>
     <message>
         <source>OK</source>
         <translation>确定</translation>
+    </message>
+</context>
+<context>
+    <name>DismissButton</name>
+    <message>
+        <source>Dismiss</source>
+        <translation>关闭提示</translation>
     </message>
 </context>
 <context>
@@ -375,10 +442,6 @@
         <translation>还没有卡片</translation>
     </message>
     <message>
-        <source>Add a card&apos;s statement with the + in its row, and another each month.</source>
-        <translation>点按卡片所在行的 + 添加账单，之后每月添加一份。</translation>
-    </message>
-    <message>
         <source>Add your first card with the + below the list, then a statement each month, and see the day you will be debt-free.</source>
         <translation>点按列表下方的 + 添加第一张卡片，之后每月添加一份账单，就能看到还清债务的日子。</translation>
     </message>
@@ -407,14 +470,6 @@
         <translation>删除卡片(&amp;D)</translation>
     </message>
     <message>
-        <source>Card</source>
-        <translation>卡片</translation>
-    </message>
-    <message>
-        <source>Statement</source>
-        <translation>账单</translation>
-    </message>
-    <message>
         <source>Delete Statement</source>
         <translation>删除账单</translation>
     </message>
@@ -423,20 +478,24 @@
         <translation>删除卡片</translation>
     </message>
     <message>
-        <source>Edit Statement</source>
-        <translation>编辑账单</translation>
+        <source>Save Again</source>
+        <translation>重新保存</translation>
     </message>
     <message>
-        <source>Add Statement</source>
-        <translation>添加账单</translation>
+        <source>Undo</source>
+        <translation>撤销</translation>
     </message>
     <message>
-        <source>Edit Card</source>
-        <translation>编辑卡片</translation>
+        <source>Redo</source>
+        <translation>重做</translation>
     </message>
     <message>
-        <source>Add Card</source>
-        <translation>添加卡片</translation>
+        <source>Continue</source>
+        <translation>继续</translation>
+    </message>
+    <message>
+        <source>Add a card’s statement with the + in its row, and another each month.</source>
+        <translation>点按卡片所在行的 + 添加账单，之后每月添加一份。</translation>
     </message>
 </context>
 <context>
@@ -517,6 +576,99 @@
         <source>SQLite reports: %1.</source>
         <translation>SQLite 报告：%1。</translation>
     </message>
+    <message>
+        <source>the data file is in use by another program</source>
+        <translation>数据文件正被另一个程序使用</translation>
+    </message>
+    <message>
+        <source>the data file is damaged</source>
+        <translation>数据文件已损坏</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>磁盘已满</translation>
+    </message>
+    <message>
+        <source>the data file cannot be written</source>
+        <translation>无法写入数据文件</translation>
+    </message>
+    <message>
+        <source>the data file could not be opened</source>
+        <translation>无法打开数据文件</translation>
+    </message>
+    <message>
+        <source>the data file could not be written</source>
+        <translation>写入数据文件失败</translation>
+    </message>
+    <message>
+        <source>a record is not valid</source>
+        <translation>有一条记录无效</translation>
+    </message>
+    <message>
+        <source>there is no data file</source>
+        <translation>没有数据文件</translation>
+    </message>
+    <message>
+        <source>the file is not a Corvane data file</source>
+        <translation>该文件不是 Corvane 的数据文件</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeText</name>
+    <message>
+        <source>Deleted %1</source>
+        <translation>已删除 %1</translation>
+    </message>
+    <message>
+        <source>Deleted %1 and its statement</source>
+        <translation>已删除 %1 及其账单</translation>
+    </message>
+    <message numerus="yes">
+        <source>Deleted %1 and its %n statements</source>
+        <translation>
+            <numerusform>已删除 %1 及其 %n 份账单</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Deleted the statement of %1 for %2</source>
+        <translation>已删除 %2 的 %1 账单</translation>
+    </message>
+    <message>
+        <source>The new card was not added</source>
+        <translation>未添加新卡片</translation>
+    </message>
+    <message>
+        <source>The statement for %1 was not added</source>
+        <translation>未添加 %1 的账单</translation>
+    </message>
+    <message>
+        <source>Added %1</source>
+        <translation>已添加 %1</translation>
+    </message>
+    <message>
+        <source>Changed %1</source>
+        <translation>已更改 %1</translation>
+    </message>
+    <message>
+        <source>Not saved: %1</source>
+        <translation>未保存：%1</translation>
+    </message>
+    <message>
+        <source>The statement is gone, so the editor was closed</source>
+        <translation>账单已不存在，因此关闭了编辑窗口</translation>
+    </message>
+    <message>
+        <source>The card is gone, so the editor was closed</source>
+        <translation>卡片已不存在，因此关闭了编辑窗口</translation>
+    </message>
+    <message>
+        <source>%1 was not changed</source>
+        <translation>未更改 %1</translation>
+    </message>
+    <message>
+        <source>The statement of %1 for %2 was not changed</source>
+        <translation>未更改 %2 的 %1 账单</translation>
+    </message>
 </context>
 <context>
     <name>NumberField</name>
@@ -559,6 +711,36 @@
     </message>
 </context>
 <context>
+    <name>OpenCardEditor</name>
+    <message>
+        <source>Card</source>
+        <translation>卡片</translation>
+    </message>
+    <message>
+        <source>Add Card</source>
+        <translation>添加卡片</translation>
+    </message>
+    <message>
+        <source>Edit Card</source>
+        <translation>编辑卡片</translation>
+    </message>
+</context>
+<context>
+    <name>OpenStatementEditor</name>
+    <message>
+        <source>Statement</source>
+        <translation>账单</translation>
+    </message>
+    <message>
+        <source>Add Statement</source>
+        <translation>添加账单</translation>
+    </message>
+    <message>
+        <source>Edit Statement</source>
+        <translation>编辑账单</translation>
+    </message>
+</context>
+<context>
     <name>PackageTransaction</name>
     <message>
         <source>PackageKit, which knows the packages of this system, is not installed.</source>
@@ -567,10 +749,6 @@
     <message>
         <source>PackageKit does not answer.</source>
         <translation>PackageKit 没有应答。</translation>
-    </message>
-    <message>
-        <source>The system&apos;s message bus cannot be reached.</source>
-        <translation>无法连接系统消息总线。</translation>
     </message>
     <message>
         <source>PackageKit cannot be asked: %1</source>
@@ -587,6 +765,10 @@
     <message>
         <source>PackageKit gave up.</source>
         <translation>PackageKit 放弃了查询。</translation>
+    </message>
+    <message>
+        <source>The system’s message bus cannot be reached.</source>
+        <translation>无法连接系统消息总线。</translation>
     </message>
 </context>
 <context>
@@ -666,12 +848,12 @@
         <translation>PackageKit 没有应答。</translation>
     </message>
     <message>
-        <source>The system&apos;s message bus cannot be reached.</source>
-        <translation>无法连接系统消息总线。</translation>
-    </message>
-    <message>
         <source>Corvane was not installed as a package, so this system knows of no newer one.</source>
         <translation>Corvane 不是以软件包形式安装的，因此此系统不知道更新的版本。</translation>
+    </message>
+    <message>
+        <source>The system’s message bus cannot be reached.</source>
+        <translation>无法连接系统消息总线。</translation>
     </message>
 </context>
 <context>

@@ -1,16 +1,23 @@
 #include "app/Translation.h"
 
 #include "app/AboutBox.h"
+#include "editors/AmountField.h"
 #include "editors/CVCardPopoverController.h"
 #include "editors/CVStatementPopoverController.h"
+#include "editors/FormLine.h"
+#include "editors/TypedTextGuard.h"
 #include "foundation/Clock.h"
+#include "foundation/RegionalSettings.h"
 #include "foundation/RelativeDateFormatter.h"
 #include "mainwindow/MainWindowController.h"
+#include "mainwindow/NoticeText.h"
+#include "mainwindow/editing/EditorTarget.h"
 #include "store/NSError.h"
 #include "tests/support/CardStore.h"
 #include "tests/support/EditorPopover.h"
 #include "tests/support/Utc.h"
 #include "tests/support/WindowHost.h"
+#include "widgets/NoticeBar.h"
 #include "widgets/SplitView.h"
 
 #include <QAbstractButton>
@@ -73,22 +80,87 @@ void expectRoomForTexts(const QWidget& window)
     }
 }
 
-/// What the line of an editor has to say at times, in the room that it has.
-void expectRoomInLine(const QWidget& editor, bool isTranslated)
+/// What the foot of the window has to say at times, with the button beside it.
+void expectRoomForNotices(NoticeBar& bar, CVCard& card)
 {
-    auto* const line = editor.findChild<QLabel*>(QStringLiteral("line"));
-    for (const auto& [context, source] :
-         {std::pair("NumberField", "A number has at most %1 digits."),
-          {"NumberField", "This is not a number."},
-          {"CurrencyChooser", "There is no such currency."},
-          {"CVStatementPopoverController", "This was deleted meanwhile."},
-          {"CVStatementPopoverController", "This date is still to come."},
-          {"CVStatementPopoverController", "This month has a statement already."}}) {
-        const auto text = QCoreApplication::translate(context, source);
+    using Kind = EditorTarget::Kind;
+    auto& statement = *card.lastStatement();
+    std::vector<std::pair<QString, const char*>> notices = {
+        {NoticeText::deleted(card), "Undo"},
+        {NoticeText::deleted(statement), "Undo"},
+        {NoticeText::dropped({Kind::NewCard, nullptr}), "Continue"},
+        {NoticeText::dropped({Kind::Card, &card}), "Continue"},
+        {NoticeText::dropped({Kind::NewStatement, &card}), "Continue"},
+        {NoticeText::dropped({Kind::Statement, &statement}), "Continue"},
+        {NoticeText::gone({Kind::Card, &card}), "Redo"},
+        {NoticeText::gone({Kind::Statement, &statement}), "Redo"},
+        {NoticeText::written(card, true), "Undo"}};
+    for (const auto* const cause :
+         {"a record is not valid", "there is no data file",
+          "the data file is in use by another program", "the data file is damaged",
+          "the file is not a Corvane data file", "the disk is full",
+          "the data file cannot be written", "the data file could not be opened",
+          "the data file could not be written"}) {
+        const NSError error(u"Domain"_qs, 1, {}, {}, ErrorText(cause));
+        notices.emplace_back(NoticeText::unsaved(error), "Save Again");
+    }
+    for (const auto& [text, title] : notices) {
+        bar.setDismissible(title != std::string("Save Again"));
+        bar.showNotice(text, QCoreApplication::translate("MainWindowController", title));
+        EXPECT_EQ(bar.toolTip(), QString()) << "shortened";
+    }
+    bar.clearNotice();
+}
+
+/// What the line of an editor has to say at times, with the values that it names.
+struct Saying
+{
+    const char* context;
+    const char* source;
+    QStringList values;
+};
+
+void expectRoomInLine(const QWidget& editor, const std::vector<Saying>& sayings, bool isTranslated)
+{
+    auto& line = *editor.findChild<FormLine*>();
+    for (const auto& [context, source, values] : sayings) {
+        auto text = QCoreApplication::translate(context, source);
         EXPECT_EQ(text != QString::fromUtf8(source), isTranslated) << source;
-        EXPECT_LE(line->fontMetrics().horizontalAdvance(text), line->width()) << text.toStdString();
+        for (const auto& value : values) {
+            text = text.arg(value);
+        }
+        line.setText(text);
+        EXPECT_FALSE(line.shownText().contains(u'…')) << line.shownText().toStdString();
+    }
+    if (auto* const field = editor.findChild<AmountField*>()) {
+        const ScopedRegionalSettings germany({"de_DE", "de_DE", "Europe/Berlin"});
+        field->setCurrency(u"EUR"_qs);
+        field->setText(u"123,000"_qs);
+        field->guard().commitEditing();
+        EXPECT_EQ(line.text(), field->invalidReason());
+        EXPECT_TRUE(line.shownText().contains(u"123.000,00"_qs)) << line.shownText().toStdString();
     }
 }
+
+const auto* const statementEditorName = "CVStatementPopoverController";
+const auto amount = QStringLiteral("£123,456.78");
+const std::vector<Saying> sayingsOfCards = {
+    {"CurrencyChooser", "There is no such currency.", {}},
+};
+const std::vector<Saying> sayingsOfStatements = {
+    {"NumberField", "A number has at most %1 digits.", {u"38"_qs}},
+    {"NumberField", "This is not a number.", {}},
+    {"AmountField", "Amounts here are in %1, not in %2.", {u"GBP"_qs, u"EUR"_qs}},
+    {"AmountField", "This can mean %1 or %2.", {u"1’234.000"_qs, u"1.234"_qs}},
+    {statementEditorName, "This was deleted meanwhile.", {}},
+    {statementEditorName, "This date is still to come.", {}},
+    {statementEditorName,
+     "%1 has a statement already, of %2.",
+     {u"September 2026"_qs, u"15/09/2026"_qs}},
+    {statementEditorName, "The limit and the payment will become the balance, %1.", {amount}},
+    {statementEditorName, "The limit will be raised to the balance, %1.", {amount}},
+    {statementEditorName, "A payment of nothing will become the whole balance, %1.", {amount}},
+};
 
 } // namespace
 
@@ -115,6 +187,7 @@ TEST_P(TranslationTest, NoTextIsCutOffInTheSmallestWindow)
     QCoreApplication::processEvents();
     expectRoomForTexts(window);
     EXPECT_LE(window.menuBar()->sizeHint().width(), window.width());
+    expectRoomForNotices(*window.findChild<NoticeBar*>(), store.cardAt(0));
     const bool isMirrored = QGuiApplication::layoutDirection() == Qt::RightToLeft;
     EXPECT_EQ(isMirrored, GetParam() == std::string("ar"));
     const auto& panes = *window.findChild<SplitView*>();
@@ -133,13 +206,14 @@ TEST_P(TranslationTest, NoTextIsCutOffInTheEditorsAndTheAboutBox)
 {
     CVCardPopoverController cardEditor;
     CVStatementPopoverController statementEditor;
-    for (CVPopoverController* const editor :
-         std::initializer_list<CVPopoverController*>{&cardEditor, &statementEditor}) {
+    for (const auto& [editor, sayings] :
+         std::initializer_list<std::pair<CVPopoverController*, const std::vector<Saying>*>>{
+             {&cardEditor, &sayingsOfCards}, {&statementEditor, &sayingsOfStatements}}) {
         EditorPopover popover(*editor);
         popover.show();
         QCoreApplication::processEvents();
         expectRoomForTexts(editor->view());
-        expectRoomInLine(editor->view(), GetParam() != std::string("en"));
+        expectRoomInLine(editor->view(), *sayings, GetParam() != std::string("en"));
     }
     AboutBox about(store.path(), nullptr);
     about.show();
