@@ -31,10 +31,11 @@ std::optional<QString> nameInStyle(const QString& code, UCurrNameStyle style,
     const auto capitals = code.toUpper().toStdU16String();
     const auto* const name =
         ucurr_getName(capitals.c_str(), locale.c_str(), style, nullptr, &length, &status);
-    if (U_FAILURE(status) || std::u16string_view(name, length) == capitals) {
+    const QStringView found(name, length);
+    if (U_FAILURE(status) || found == capitals) {
         return std::nullopt;
     }
-    return QStringView(name, length).toString();
+    return found.toString();
 }
 
 /// In capitals, without blanks and marks of the writing direction.

@@ -75,12 +75,12 @@ QString NoticeText::unconfirmed(const EditorTarget& target)
         return QCoreApplication::translate("NoticeText", "The statement for %1 is not added yet")
             .arg(nameOf(static_cast<const CVCard*>(target.record)));
     case EditorTarget::Kind::Card:
-        return QCoreApplication::translate("NoticeText", "The changes to %1 are not kept yet")
+        return QCoreApplication::translate("NoticeText", "%1 is not changed yet")
             .arg(nameOf(static_cast<const CVCard*>(target.record)));
     case EditorTarget::Kind::Statement: {
         const auto& statement = static_cast<const CVStatement&>(*target.record);
-        return QCoreApplication::translate(
-                   "NoticeText", "The changes to the statement of %1 for %2 are not kept yet")
+        return QCoreApplication::translate("NoticeText",
+                                           "The statement of %1 for %2 is not changed yet")
             .arg(dateOf(statement), nameOf(statement.card()));
     }
     }

@@ -507,6 +507,10 @@
         <source>Add a card’s statement with the + in its row, and another each month.</source>
         <translation>أضف كشفًا للبطاقة بزر + في صفها، ثم كشفًا آخر كل شهر.</translation>
     </message>
+    <message>
+        <source>Quit</source>
+        <translation>إنهاء</translation>
+    </message>
 </context>
 <context>
     <name>NSError</name>
@@ -683,6 +687,22 @@
     <message>
         <source>The statement of %1 for %2 was not changed</source>
         <translation>لم يُعدَّل كشف ⁨%2⁩ بتاريخ ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>The new card is not added yet</source>
+        <translation>لم تُضف البطاقة الجديدة بعد</translation>
+    </message>
+    <message>
+        <source>The statement for %1 is not added yet</source>
+        <translation>لم يُضف كشف ⁨%1⁩ بعد</translation>
+    </message>
+    <message>
+        <source>%1 is not changed yet</source>
+        <translation>لم تُعدَّل ⁨%1⁩ بعد</translation>
+    </message>
+    <message>
+        <source>The statement of %1 for %2 is not changed yet</source>
+        <translation>لم يُعدَّل كشف ⁨%2⁩ بتاريخ ⁨%1⁩ بعد</translation>
     </message>
 </context>
 <context>

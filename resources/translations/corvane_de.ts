@@ -499,6 +499,10 @@
         <source>Add a card’s statement with the + in its row, and another each month.</source>
         <translation>Fügen Sie mit dem + in der Zeile einer Karte deren Abrechnung hinzu, und jeden Monat eine weitere.</translation>
     </message>
+    <message>
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
 </context>
 <context>
     <name>NSError</name>
@@ -671,6 +675,22 @@
     <message>
         <source>The statement of %1 for %2 was not changed</source>
         <translation>Abrechnung vom %1 für %2 nicht geändert</translation>
+    </message>
+    <message>
+        <source>The new card is not added yet</source>
+        <translation>Die neue Karte ist noch nicht hinzugefügt</translation>
+    </message>
+    <message>
+        <source>The statement for %1 is not added yet</source>
+        <translation>Die Abrechnung für %1 ist noch nicht hinzugefügt</translation>
+    </message>
+    <message>
+        <source>%1 is not changed yet</source>
+        <translation>%1 ist noch nicht geändert</translation>
+    </message>
+    <message>
+        <source>The statement of %1 for %2 is not changed yet</source>
+        <translation>Abrechnung vom %1 für %2 noch nicht geändert</translation>
     </message>
 </context>
 <context>

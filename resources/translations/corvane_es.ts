@@ -499,6 +499,10 @@
         <source>Add a card’s statement with the + in its row, and another each month.</source>
         <translation>Añada un extracto con el + de la fila de una tarjeta, y otro cada mes.</translation>
     </message>
+    <message>
+        <source>Quit</source>
+        <translation>Salir</translation>
+    </message>
 </context>
 <context>
     <name>NSError</name>
@@ -671,6 +675,22 @@
     <message>
         <source>The statement of %1 for %2 was not changed</source>
         <translation>No se ha modificado el extracto del %1 de %2</translation>
+    </message>
+    <message>
+        <source>The new card is not added yet</source>
+        <translation>Aún no se ha añadido la nueva tarjeta</translation>
+    </message>
+    <message>
+        <source>The statement for %1 is not added yet</source>
+        <translation>Aún no se ha añadido el extracto de %1</translation>
+    </message>
+    <message>
+        <source>%1 is not changed yet</source>
+        <translation>Aún no se ha modificado %1</translation>
+    </message>
+    <message>
+        <source>The statement of %1 for %2 is not changed yet</source>
+        <translation>Aún no se ha modificado el extracto del %1 de %2</translation>
     </message>
 </context>
 <context>

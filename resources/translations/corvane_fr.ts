@@ -499,6 +499,10 @@
         <source>Add a card’s statement with the + in its row, and another each month.</source>
         <translation>Ajoutez un relevé avec le + de la ligne d’une carte, puis un autre chaque mois.</translation>
     </message>
+    <message>
+        <source>Quit</source>
+        <translation>Quitter</translation>
+    </message>
 </context>
 <context>
     <name>NSError</name>
@@ -671,6 +675,22 @@
     <message>
         <source>The statement of %1 for %2 was not changed</source>
         <translation>Relevé du %1 pour %2 non modifié</translation>
+    </message>
+    <message>
+        <source>The new card is not added yet</source>
+        <translation>La nouvelle carte n’est pas encore ajoutée</translation>
+    </message>
+    <message>
+        <source>The statement for %1 is not added yet</source>
+        <translation>Le relevé pour %1 n’est pas encore ajouté</translation>
+    </message>
+    <message>
+        <source>%1 is not changed yet</source>
+        <translation>Carte pas encore modifiée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The statement of %1 for %2 is not changed yet</source>
+        <translation>Relevé du %1 pour %2 pas encore modifié</translation>
     </message>
 </context>
 <context>

@@ -497,6 +497,10 @@
         <source>Add a card’s statement with the + in its row, and another each month.</source>
         <translation>点按卡片所在行的 + 添加账单，之后每月添加一份。</translation>
     </message>
+    <message>
+        <source>Quit</source>
+        <translation>退出</translation>
+    </message>
 </context>
 <context>
     <name>NSError</name>
@@ -668,6 +672,22 @@
     <message>
         <source>The statement of %1 for %2 was not changed</source>
         <translation>未更改 %2 的 %1 账单</translation>
+    </message>
+    <message>
+        <source>The new card is not added yet</source>
+        <translation>新卡片尚未添加</translation>
+    </message>
+    <message>
+        <source>The statement for %1 is not added yet</source>
+        <translation>%1 的账单尚未添加</translation>
+    </message>
+    <message>
+        <source>%1 is not changed yet</source>
+        <translation>%1 尚未更改</translation>
+    </message>
+    <message>
+        <source>The statement of %1 for %2 is not changed yet</source>
+        <translation>%2 的 %1 账单尚未更改</translation>
     </message>
 </context>
 <context>

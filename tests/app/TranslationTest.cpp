@@ -92,6 +92,7 @@ void expectRoomForNotices(NoticeBar& bar, CVCard& card)
         {NoticeText::dropped({Kind::Card, &card}), "Continue"},
         {NoticeText::dropped({Kind::NewStatement, &card}), "Continue"},
         {NoticeText::dropped({Kind::Statement, &statement}), "Continue"},
+        {NoticeText::unconfirmed({Kind::Statement, &statement}), "Quit"},
         {NoticeText::gone({Kind::Card, &card}), "Redo"},
         {NoticeText::gone({Kind::Statement, &statement}), "Redo"},
         {NoticeText::written(card, true), "Undo"}};
