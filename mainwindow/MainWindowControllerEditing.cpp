@@ -89,9 +89,11 @@ void MainWindowController::openCardEditor(const EditorTarget& target)
     if (m_cardEditor) {
         tellDropped(m_cardEditor->retarget(target));
     } else if (m_editorPlaces->placeOf(target)) {
-        m_cardEditor = std::make_unique<OpenCardEditor>(cardPopoverController(), scratchContext(),
-                                                        *m_editorPlaces, *this, target);
-        m_cardEditor->open();
+        auto editor = std::make_unique<OpenCardEditor>(cardPopoverController(), scratchContext(),
+                                                       *m_editorPlaces, *this, target);
+        editor->fill();
+        m_cardEditor = std::move(editor);
+        m_cardEditor->show();
     }
     if (m_cardEditor) {
         const auto* const command = target.isNew() ? m_ui->addCard : m_ui->getSelectedCardInfo;
@@ -104,9 +106,11 @@ void MainWindowController::openStatementEditor(const EditorTarget& target)
     if (m_statementEditor) {
         tellDropped(m_statementEditor->retarget(target));
     } else if (m_editorPlaces->placeOf(target)) {
-        m_statementEditor = std::make_unique<OpenStatementEditor>(
+        auto editor = std::make_unique<OpenStatementEditor>(
             statementPopoverController(), scratchContext(), *m_editorPlaces, *this, target);
-        m_statementEditor->open();
+        editor->fill();
+        m_statementEditor = std::move(editor);
+        m_statementEditor->show();
     }
 }
 

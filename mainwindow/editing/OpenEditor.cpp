@@ -26,10 +26,14 @@ EditorDraft OpenEditor::draft() const
     return {m_target, m_form.typedTexts()};
 }
 
-void OpenEditor::open()
+void OpenEditor::fill()
 {
     m_form.setContext(&m_scratchContext);
     fillForm();
+}
+
+void OpenEditor::show()
+{
     const auto anchor = place().value();
     m_popover.showRelativeToRect(anchor.rect, *anchor.view, anchor.preferredEdge);
     m_form.setPopover(&m_popover);

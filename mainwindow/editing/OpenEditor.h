@@ -38,8 +38,11 @@ public:
     /// What stands in the form, should it be given up now.
     EditorDraft draft() const;
 
-    /// Fills the form and shows it at the target's place, which there must be.
-    void open();
+    /// Fills the form. Throws NSError when what it needs cannot be read: the editor is of no use
+    /// then.
+    void fill();
+    /// Shows the form, which is filled, at the target's place, which there must be.
+    void show();
     /// Where it stands now; absent while that is nowhere.
     std::optional<PopoverAnchor> place() const;
     /// Edits something else from now on, at the place of that, and answers what is given up. When

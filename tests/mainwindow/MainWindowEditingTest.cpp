@@ -20,6 +20,7 @@
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QTest>
+#include <SQLiteCpp/Database.h>
 #include <gtest/gtest.h>
 
 namespace {
@@ -443,4 +444,31 @@ TEST_F(MainWindowEditingTest, closingTheWindowOverSomethingTypedIsAskedOnce)
     type("balanceField", "78");
     EXPECT_FALSE(controller.windowShouldClose()) << "more was typed";
     EXPECT_TRUE(controller.windowShouldClose());
+}
+
+TEST_F(MainWindowEditingTest, anEditorWhoseCardCannotBeReadOpensWhenItCan)
+{
+    constexpr std::size_t last = 29;
+    for (std::size_t row = 0; row <= last; ++row) {
+        store.insertStatement(&store.insertCard(QString::number(row)), utc(2015, 3, 3));
+    }
+    store.save();
+    store.reopen();
+    WindowHost freshHost{store.context()};
+    MainWindowController fresh{freshHost};
+    fresh.showWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&fresh.window()));
+    settle();
+    SQLite::Database other(store.path().toStdString(), SQLite::OPEN_READWRITE);
+    other.exec("ALTER TABLE Statement RENAME TO Away");
+    // Of a row that was never in view nothing has been read.
+    fresh.cardsController().setSelectionIndex(last);
+    fresh.addStatement(nullptr);
+    settle();
+    EXPECT_FALSE(fresh.statementPopover());
+    other.exec("ALTER TABLE Away RENAME TO Statement");
+    fresh.addStatement(nullptr);
+    settle();
+    ASSERT_TRUE(fresh.statementPopover());
+    EXPECT_TRUE(fresh.statementPopover()->isShown());
 }
