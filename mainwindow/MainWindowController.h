@@ -44,8 +44,7 @@ class MainWindow;
 /// Its duties stand in files of their own: this class's set-up in MainWindowController.cpp, the
 /// list of cards and the two selections in ...CardList.cpp, zoom and what is remembered of the view
 /// in ...Zoom.cpp, opening the editors, and deleting, in ...Editing.cpp, commands, keys and totals
-/// in
-/// ...Commands.cpp. An editor that is open is an object of its own, in editing/.
+/// in ...Commands.cpp. An editor that is open is an object of its own, in editing/.
 class MainWindowController : public QObject,
                              public KeyValueObject,
                              public CVMainWindowDelegate,

@@ -25,7 +25,7 @@ struct EditorTarget
     NSManagedObject* record = nullptr;
 
     bool isStatement() const { return kind == Kind::NewStatement || kind == Kind::Statement; }
-    /// Whether the record that a confirm would change already exists.
+    /// Whether a confirm makes a record; else it changes the one that there is.
     bool isNew() const { return kind == Kind::NewCard || kind == Kind::NewStatement; }
     /// Whether the record was deleted meanwhile.
     bool isGone() const { return record && record->isDeleted(); }

@@ -9,19 +9,20 @@ class CVCardPopoverController;
 
 /// The editor of a card while it is open.
 ///
-/// | transition  | when                                                    | what |
-/// |-------------|---------------------------------------------------------|-------------------------------------------------------|
-/// | open        | "+" below the list, New Card, a start without cards     | a new card, at the
-/// list's title                       | |             | double click or Press on a row, Get Info |
-/// that card, at its row                                 | | retarget    | one of these for
-/// something else, meanwhile              | that; what was typed is given up                      |
-/// |             | one of these for the same                               | nothing | | refuse | a
-/// press elsewhere, the first, over a card that exists   | it stays, and the press does what it
-/// does             | | confirm     | Add, Update, Return                                     | one
-/// step, "Add Card" or "Edit Card"                   | |             | a press elsewhere, while the
-/// form is as if confirmed    | the same; not for a new card that nobody touched      | | drop |
-/// Escape, Cancel; a press elsewhere                       | nothing is written | | target gone |
-/// the card was deleted or taken back                      | nothing is written |
+/// | transition  | when                                       | what                              |
+/// |-------------|--------------------------------------------|-----------------------------------|
+/// | open        | "+" below the list, New Card, a start      | a new card, at the list's title   |
+/// |             | without cards                              |                                   |
+/// |             | double click or Press on a row, Get Info   | that card, at its row             |
+/// | retarget    | one of these for something else meanwhile  | that; what was typed is given up  |
+/// |             | one of these for the same                  | nothing                           |
+/// | refuse      | a press elsewhere, the first, over a card  | it stays, and the press does what |
+/// |             | that exists                                | it does                           |
+/// | confirm     | Add, Update, Return                        | one step to undo                  |
+/// |             | a press elsewhere, while the form is as if | the same; not for a new card that |
+/// |             | confirmed                                  | nobody touched                    |
+/// | drop        | Escape, Cancel; a press elsewhere          | nothing is written                |
+/// | target gone | the card was deleted or taken back         | nothing is written                |
 ///
 /// What was typed and is not written is in the outcome, so that the person can go on with it.
 class OpenCardEditor : public OpenEditor

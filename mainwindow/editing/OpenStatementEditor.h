@@ -10,19 +10,23 @@ class CVStatementPopoverController;
 
 /// The editor of a statement while it is open.
 ///
-/// | transition  | when                                                      | what |
-/// |-------------|-----------------------------------------------------------|----------------------------------------------------------|
-/// | open        | "+" of a row, Add Statement: nothing open, or another one | a new statement of
-/// that card, at the "+"; what was open is dropped | |             | double click or Press on a
-/// dot, Return, Get Info          | that statement, at its dot                               | |
-/// retarget    | another statement is selected, or opened, meanwhile       | that one, at its dot;
-/// what was typed is given up         | |             | the same one is opened again, or "+" in the
-/// same row      | nothing                                                  | | refuse      | the
-/// popover itself wants to close, the first time, over a new statement | it stays | | confirm     |
-/// Add, Update, Return, while the button is enabled          | one step, "Add Statement" or "Edit
-/// Statement", saved     | | drop        | Escape, Cancel, a press beside the dots, "+" in another
-/// row, Delete | nothing is written                             | | target gone | the statement, or
-/// the card that it is for, was deleted or taken back | nothing is written |
+/// | transition  | when                                    | what                                 |
+/// |-------------|-----------------------------------------|--------------------------------------|
+/// | open        | "+" of a row, Add Statement             | a new statement of that card, at the |
+/// |             |                                         | "+"; one that was open is dropped    |
+/// |             | double click or Press on a dot, Return, | that statement, at its dot           |
+/// |             | Get Info                                |                                      |
+/// | retarget    | another is selected or opened meanwhile | that one, at its dot; what was typed |
+/// |             |                                         | is given up                          |
+/// |             | the same is opened, "+" in its own row  | nothing                              |
+/// | refuse      | the popover wants to close by itself,   | it stays                             |
+/// |             | the first time, over a new statement    |                                      |
+/// | confirm     | Add, Update, Return                     | one step to undo, saved at once      |
+/// | drop        | Escape, Cancel, a press beside dots,    | nothing is written                   |
+/// |             | "+" elsewhere, a card opened from its   |                                      |
+/// |             | row, Delete                             |                                      |
+/// | target gone | the statement, or the card that it is   | nothing is written                   |
+/// |             | for, was deleted or taken back          |                                      |
 ///
 /// What was typed and is not written is in the outcome, so that the person can go on with it.
 class OpenStatementEditor : public OpenEditor
