@@ -616,7 +616,11 @@ private:
         const auto any = [this](int length) {
             return static_cast<int>(below(static_cast<unsigned>(length)));
         };
-        click({any(window().width()), top + any(window().height() - top)}, below(3) == 0 ? 2U : 1U);
+        const QPoint point(any(window().width()), top + any(window().height() - top));
+        const auto& notice = find<NoticeBar>("noticeBar");
+        if (!notice.isVisible() || !notice.rect().contains(notice.mapFrom(&window(), point))) {
+            click(point, below(3) == 0 ? 2U : 1U);
+        }
     }
     /// What a press did is settled before the release, as it is for a person.
     void click(QPoint point, unsigned clicks)
