@@ -81,8 +81,9 @@ int DialogPresenter::runModalAlert(const Alert& alert)
             box->setDefaultButton(button);
         }
     }
-    m_wasBrokenOff = true;
-    QObject::connect(box, &QDialog::finished, box, [this] { m_wasBrokenOff = false; });
+    bool isFinished = false;
+    QObject::connect(box, &QDialog::finished, box, [&isFinished] { isFinished = true; });
     box->exec();
+    m_wasBrokenOff = !isFinished;
     return pressed;
 }
