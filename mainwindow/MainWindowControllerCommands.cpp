@@ -5,8 +5,6 @@
 #include "mainwindow/MainWindowController.h"
 #include "mainwindow/MainWindowHost.h"
 #include "mainwindow/WindowNotice.h"
-#include "mainwindow/editing/OpenCardEditor.h"
-#include "mainwindow/editing/OpenStatementEditor.h"
 #include "model/CVCard.h"
 #include "model/CVManagedObjectContext.h"
 #include "model/CVStatement.h"
@@ -56,6 +54,7 @@ void MainWindowController::changeByUndoManager(void (NSUndoManager::*change)(),
         return;
     }
     m_notice->withdraw();
+    m_deleteKeyGuard->disarm();
     const KeyValueChange totals(*this, "formattedTotals");
     const bool isEditing = m_cardEditor || m_statementEditor;
     ObjectChanges changes;

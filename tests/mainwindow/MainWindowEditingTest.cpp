@@ -326,6 +326,8 @@ TEST_F(MainWindowEditingTest, whatIsDeletedIsNotSelectedAndTheKeyTakesOneThingOn
     noticeButton().click();
     EXPECT_EQ(controller.cardsController().rowCount(), 2);
     EXPECT_EQ(statementsInFile(), 3);
+    press(Qt::Key_Delete);
+    EXPECT_EQ(controller.cardsController().rowCount(), 1) << "what came back is what is meant";
 }
 
 TEST_F(MainWindowEditingTest, undoSelectsWhatItChangedAndClosesTheEditorOfWhatItTook)
