@@ -16,13 +16,13 @@ void WindowNotice::tell(const QString& text, const QString& actionTitle,
                         std::function<void()> action)
 {
     m_told = Content{text, actionTitle, std::move(action)};
-    show();
+    showUnlessUnsaved();
 }
 
 void WindowNotice::withdraw()
 {
     m_told.reset();
-    show();
+    showUnlessUnsaved();
 }
 
 void WindowNotice::tellUnsaved(const QString& text, const QString& actionTitle,
@@ -36,6 +36,14 @@ void WindowNotice::withdrawUnsaved()
 {
     m_unsaved.reset();
     show();
+}
+
+/// What goes before all else is announced once, and not anew whenever something happens behind it.
+void WindowNotice::showUnlessUnsaved()
+{
+    if (!m_unsaved) {
+        show();
+    }
 }
 
 void WindowNotice::show()

@@ -40,6 +40,7 @@ private:
     };
 
     void show();
+    void showUnlessUnsaved();
     void perform();
     void dismiss();
 

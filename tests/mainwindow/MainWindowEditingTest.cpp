@@ -9,12 +9,14 @@
 #include "tests/support/Utc.h"
 #include "tests/support/WindowHost.h"
 #include "timeline/CVTimelineTableView.h"
+#include "widgets/AccessibleAnnouncements.h"
 #include "widgets/FormButton.h"
 #include "widgets/NSPopover.h"
 #include "widgets/NoticeBar.h"
 #include "widgets/PopoverAnchor.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QAction>
 #include <QDir>
 #include <QFileInfo>
@@ -421,6 +423,16 @@ TEST_F(MainWindowEditingTest, whatCouldNotBeSavedIsToldUntilItIs)
     EXPECT_EQ(controller.selectedStatement(), second->lastStatement());
     EXPECT_TRUE(controller.window().isWindowModified());
     controller.setSelectedStatement(nullptr);
+    static QStringList announced;
+    AccessibleAnnouncements::setListener([](QAccessibleEvent& event) {
+        if (event.type() == QAccessible::ObjectShow) {
+            announced.append(event.accessibleInterface()->text(QAccessible::Name));
+        }
+    });
+    controller.addCard();
+    cardEditor().cancel();
+    EXPECT_EQ(announced, QStringList()) << "it was told already";
+    AccessibleAnnouncements::setListener(nullptr);
     controller.delete_();
     noticeButton().click();
     EXPECT_EQ(noticeButton().text(), QStringLiteral("Save Again")) << "before all else";
