@@ -384,9 +384,10 @@ void MainWindowController::contextDidSave()
 
 void MainWindowController::contextDidFailToSave(const NSError& error)
 {
-    // What was confirmed shows all the same.
+    // What was confirmed shows all the same, on an axis that reaches to it.
     redrawTimeline();
     showModified();
+    placeEditors();
     m_notice->tellUnsaved(NoticeText::unsaved(error), tr("Save Again"),
                           [this] { CVManagedObjectContext::saveAndLogError(*m_context); });
 }

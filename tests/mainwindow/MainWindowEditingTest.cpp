@@ -460,6 +460,26 @@ TEST_F(MainWindowEditingTest, closingTheWindowOverSomethingTypedIsAskedOnce)
     EXPECT_TRUE(controller.windowShouldClose());
 }
 
+TEST_F(MainWindowEditingTest, anEditorFollowsItsDotAlsoWhenASaveFails)
+{
+    fill();
+    controller.setSelectedStatement(&store.insertStatement(second, utc(2017, 6, 1)));
+    open();
+    controller.delete_();
+    controller.setSelectedStatement(first->lastStatement());
+    controller.getSelectedCardInfo();
+    const auto folder = QFileInfo(store.path()).absolutePath();
+    ASSERT_TRUE(QDir().rename(folder, folder + u"-away"));
+    // There is a notice already, so that nothing makes room for one.
+    notice().showNotice(QStringLiteral("Something"), QString());
+    settle();
+    const auto before = controller.statementPopover()->positioningRect();
+    controller.undo();
+    EXPECT_NE(controller.statementPopover()->positioningRect(), before);
+    EXPECT_TRUE(standsAtItsRecord());
+    ASSERT_TRUE(QDir().rename(folder + u"-away", folder));
+}
+
 TEST_F(MainWindowEditingTest, anEditorWhoseCardCannotBeReadOpensWhenItCan)
 {
     constexpr std::size_t last = 29;
