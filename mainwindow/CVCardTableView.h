@@ -44,8 +44,8 @@ public:
     QRect cardInfoPopoverAnchorRectForRow(int row) const;
     QRect newStatementPopoverAnchorRectForRow(int row) const;
 
-    /// Scrolls to a row and announces it as one that was clicked twice; a row that is not there
-    /// changes nothing.
+    /// Scrolls to a row and announces it as one that was clicked twice. A row that is not there, or
+    /// that there is no room to show, changes nothing.
     void doubleClickRow(int row);
 
     /// Lets all rows in view be drawn again: what they show may have changed.
