@@ -6,8 +6,6 @@
 #include "mainwindow/MainWindowController.h"
 #include "mainwindow/MainWindowHost.h"
 #include "mainwindow/WindowNotice.h"
-#include "mainwindow/editing/OpenCardEditor.h"
-#include "mainwindow/editing/OpenStatementEditor.h"
 #include "model/CVCard.h"
 #include "model/CVStatement.h"
 #include "store/NSArrayController.h"
@@ -53,7 +51,7 @@ void MainWindowController::setSelectedStatement(CVStatement* statement)
             m_ui->timelineTableView->selectedStatementDidChange(previous, statement);
         }
     }
-    if (isAnother && statement && m_statementEditor) {
+    if (isAnother && selectedStatement() && m_statementEditor) {
         showSelectedStatementPopover();
     }
 }

@@ -27,12 +27,7 @@ namespace {
 
 using Kind = EditorTarget::Kind;
 
-bool isPopoverOf(const std::unique_ptr<OpenCardEditor>& editor, const NSPopover& popover)
-{
-    return editor && &editor->popover() == &popover;
-}
-
-bool isPopoverOf(const std::unique_ptr<OpenStatementEditor>& editor, const NSPopover& popover)
+bool isPopoverOf(OpenEditor* editor, const NSPopover& popover)
 {
     return editor && &editor->popover() == &popover;
 }
@@ -298,41 +293,41 @@ void MainWindowController::tellGone(const EditorTarget& target)
 
 void MainWindowController::popoverWillShow(NSPopover& popover)
 {
-    if (isPopoverOf(m_statementEditor, popover)) {
+    if (isPopoverOf(m_statementEditor.get(), popover)) {
         m_statementEditor->prepareForm();
     }
 }
 
 void MainWindowController::popoverDidShow(NSPopover& popover)
 {
-    if (isPopoverOf(m_statementEditor, popover)) {
+    if (isPopoverOf(m_statementEditor.get(), popover)) {
         m_statementEditor->beginTyping();
     }
 }
 
 std::optional<PopoverAnchor> MainWindowController::popoverWillReposition(NSPopover& popover)
 {
-    if (isPopoverOf(m_statementEditor, popover)) {
+    if (isPopoverOf(m_statementEditor.get(), popover)) {
         return m_statementEditor->place();
     }
-    return isPopoverOf(m_cardEditor, popover) ? m_cardEditor->place() : std::nullopt;
+    return isPopoverOf(m_cardEditor.get(), popover) ? m_cardEditor->place() : std::nullopt;
 }
 
 bool MainWindowController::popoverShouldClose(NSPopover& popover)
 {
-    if (isPopoverOf(m_statementEditor, popover)) {
+    if (isPopoverOf(m_statementEditor.get(), popover)) {
         return m_statementEditor->shouldClose();
     }
-    return !isPopoverOf(m_cardEditor, popover) || m_cardEditor->shouldClose();
+    return !isPopoverOf(m_cardEditor.get(), popover) || m_cardEditor->shouldClose();
 }
 
 void MainWindowController::popoverDidClose(NSPopover& popover)
 {
     // From here on it counts as closed: what is written and selected below opens nothing and
     // retargets nothing.
-    if (isPopoverOf(m_statementEditor, popover)) {
+    if (isPopoverOf(m_statementEditor.get(), popover)) {
         statementEditorDidClose(std::exchange(m_statementEditor, nullptr));
-    } else if (isPopoverOf(m_cardEditor, popover)) {
+    } else if (isPopoverOf(m_cardEditor.get(), popover)) {
         cardEditorDidClose(std::exchange(m_cardEditor, nullptr));
     }
 }
