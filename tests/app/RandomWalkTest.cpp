@@ -175,6 +175,7 @@ private:
         const NSManagedObject* originalCard = nullptr;
         CVPopoverController::TypedTexts typedForStatement;
         CVPopoverController::TypedTexts typedForCard;
+        QString notice;
         PlainRecords records;
     };
     /// What may have become of the records: a change of this name that makes them these. Where a
@@ -251,6 +252,7 @@ private:
     {
         Editors result;
         result.records = m_model.now;
+        result.notice = find<NoticeBar>("noticeBar").text();
         const auto& statementEditor = controller().statementPopoverController();
         if (controller().statementPopover() && statementEditor.statement()) {
             result.statement = PlainStatement::of(*statementEditor.statement());
@@ -747,7 +749,11 @@ private:
     void checkTyping(const Editors& before)
     {
         const auto now = editors();
-        const bool isTold = find<NoticeBar>("noticeBar").isShowingNotice();
+        const auto& notice = find<NoticeBar>("noticeBar");
+        const bool isOffered =
+            notice.isShowingNotice() &&
+            notice.findChild<FormButton*>()->text() == QStringLiteral("Continue");
+        const bool isTold = isOffered || (notice.isShowingNotice() && now.notice != before.notice);
         const bool isWritten = now.records != before.records;
         const bool hasStatement = now.statement &&
                                   now.originalStatement == before.originalStatement &&
