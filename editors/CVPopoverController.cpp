@@ -79,7 +79,8 @@ CVPopoverController::TypedTexts CVPopoverController::typedTexts() const
 void CVPopoverController::restoreTypedTexts(const TypedTexts& texts)
 {
     for (auto* const field : m_form.fields) {
-        if (const auto typed = texts.find(field->objectName()); typed != texts.end()) {
+        const auto typed = texts.find(field->objectName());
+        if (typed != texts.end() && typed->second != field->text()) {
             field->setText(typed->second);
         }
     }
@@ -88,6 +89,22 @@ void CVPopoverController::restoreTypedTexts(const TypedTexts& texts)
             guard->commitEditing();
         }
     }
+}
+
+void CVPopoverController::changeRecord(const std::function<void()>& change)
+{
+    const auto typed = typedTexts();
+    TypedTexts shown;
+    for (const auto* const field : m_form.fields) {
+        shown.emplace(field->objectName(), field->text());
+    }
+    change();
+    for (const auto* const field : m_form.fields) {
+        if (field->text() != shown.at(field->objectName())) {
+            m_handedOver[field->objectName()] = field->text();
+        }
+    }
+    restoreTypedTexts(typed);
 }
 
 KeyValueObservable* CVPopoverController::observableValueForKey(std::string_view key)

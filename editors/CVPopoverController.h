@@ -61,6 +61,10 @@ public:
     /// does not have are left out.
     void restoreTypedTexts(const TypedTexts& texts);
 
+    /// The record changes under the form: `change` gives it its other values. The fields show them,
+    /// but what was typed stays.
+    void changeRecord(const std::function<void()>& change);
+
     /// "Update" while the editor has the record to be changed, "Add" while it has none.
     virtual QString okButtonTitle() const = 0;
 

@@ -368,11 +368,19 @@ void MainWindowController::contextObjectsDidChange()
     showModified();
     showInvitation();
     closeEditorsOfGoneRecords();
+    for (OpenEditor* const editor :
+         std::initializer_list<OpenEditor*>{m_cardEditor.get(), m_statementEditor.get()}) {
+        if (editor) {
+            editor->followTarget();
+        }
+    }
     placeEditors();
 }
 
 void MainWindowController::contextDidSave()
 {
+    // A file that could not be written may have been one that could not be read either.
+    const KeyValueChange totals(*this, "formattedTotals");
     // The axis goes by what is in the file.
     redrawTimeline();
     showModified();

@@ -1,6 +1,7 @@
 // How the main window's controller keeps the list of cards and the timeline, and what is selected
 // in them, in step.
 
+#include "foundation/Log.h"
 #include "foundation/UserDefaults.h"
 #include "mainwindow/DeleteKeyGuard.h"
 #include "mainwindow/MainWindowController.h"
@@ -9,6 +10,7 @@
 #include "model/CVCard.h"
 #include "model/CVStatement.h"
 #include "store/NSArrayController.h"
+#include "store/NSError.h"
 #include "timeline/HorizontalScrollAnimation.h"
 
 #include "ui_MainWindow.h"
@@ -76,11 +78,16 @@ void MainWindowController::showStatement(CVStatement& statement)
 void MainWindowController::makeStatementVisible(const CVStatement& statement)
 {
     const auto& table = *m_ui->timelineTableView;
-    const auto rect = table.rectForStatement(statement);
     const QRectF visible = table.visibleRect();
-    if (rect && !visible.contains(*rect)) {
-        m_scrollAnimation->scrollTo(
-            std::max(0.0, rect->x() - (visible.width() - rect->width()) * 0.5));
+    try {
+        const auto rect = table.rectForStatement(statement);
+        if (rect && !visible.contains(*rect)) {
+            m_scrollAnimation->scrollTo(
+                std::max(0.0, rect->x() - (visible.width() - rect->width()) * 0.5));
+        }
+    } catch (const NSError& error) {
+        // Nothing that was about to be done depends on what is in view.
+        Log::line(QString(u"Unable to show a statement: " + error.description()));
     }
 }
 

@@ -230,6 +230,7 @@ void MainWindowController::delete_()
         return;
     }
     const KeyValueChange totals(*this, "formattedTotals");
+    const auto draft = m_statementEditor ? m_statementEditor->draft() : EditorDraft{};
     QString text;
     if (auto* const statement = selectedStatement()) {
         text = NoticeText::deleted(*statement);
@@ -248,9 +249,16 @@ void MainWindowController::delete_()
     redrawTimeline();
     if (text.isEmpty()) {
         m_notice->withdraw();
-    } else {
+        return;
+    }
+    m_deleteKeyGuard->arm();
+    if (m_statementEditor || draft.texts.empty() || draft.target.isGone()) {
         m_notice->tell(text, tr("Undo"), [this] { undo(); });
-        m_deleteKeyGuard->arm();
+    } else {
+        // Undo is in the menu as well; what was typed is nowhere else.
+        //: Two notices in one: what was deleted, and what was not kept.
+        m_notice->tell(tr("%1. %2").arg(text, NoticeText::dropped(draft.target)), tr("Continue"),
+                       [this, draft] { continueEditing(draft); });
     }
 }
 
@@ -341,9 +349,9 @@ void MainWindowController::statementEditorDidClose(std::unique_ptr<OpenStatement
     }
     if (outcome.written && outcome.target.isNew()) {
         auto& statement = static_cast<CVStatement&>(*outcome.written);
-        makeStatementVisible(statement);
         setSelectedStatement(&statement);
         selectCardAndMakeVisible(*statement.card());
+        makeStatementVisible(statement);
     }
     tellDropped({outcome.target, outcome.dropped});
     redrawTimeline();
@@ -355,7 +363,8 @@ void MainWindowController::cardEditorDidClose(std::unique_ptr<OpenCardEditor> ed
     const auto outcome = editor->conclude(*m_context);
     if (outcome.written) {
         auto& card = static_cast<CVCard&>(*outcome.written);
-        if (outcome.target.isNew()) {
+        // Another name may have taken the row elsewhere.
+        if (outcome.target.isNew() || (selectedCard() == &card && !outcome.isUnasked)) {
             selectCardAndMakeVisible(card);
         }
         if (outcome.isUnasked) {

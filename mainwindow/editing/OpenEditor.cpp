@@ -4,7 +4,10 @@
 #include "mainwindow/editing/EditorPlaces.h"
 #include "store/NSManagedObjectContext.h"
 
+#include <QLineEdit>
+
 #include <utility>
+#include <vector>
 
 OpenEditor::OpenEditor(CVPopoverController& form, NSManagedObjectContext& scratchContext,
                        const EditorPlaces& places, NSPopoverDelegate& delegate,
@@ -29,6 +32,7 @@ EditorDraft OpenEditor::draft() const
 void OpenEditor::fill()
 {
     m_form.setContext(&m_scratchContext);
+    rememberTarget();
     fillForm();
 }
 
@@ -53,13 +57,54 @@ EditorDraft OpenEditor::retarget(const EditorTarget& target)
     auto* const formerRecord = scratchRecord();
     m_target = target;
     m_hasRefused = false;
+    rememberTarget();
     fillForm();
+    // Typing goes on in the field that has the focus, in place of what stands there now.
+    if (auto* const field = qobject_cast<QLineEdit*>(m_form.view().focusWidget())) {
+        field->selectAll();
+    }
     if (formerRecord) {
         m_scratchContext.deleteObject(*formerRecord);
         m_scratchContext.processPendingChanges();
     }
     m_popover.reposition();
     return given;
+}
+
+void OpenEditor::followTarget()
+{
+    if (m_target.isNew() || m_target.isGone()) {
+        return;
+    }
+    std::vector<std::string> changed;
+    for (auto& [name, known] : m_knownValues) {
+        if (auto value = m_target.record->valueForKey(name); value != known) {
+            known = std::move(value);
+            changed.push_back(name);
+        }
+    }
+    if (changed.empty()) {
+        return;
+    }
+    m_form.changeRecord([this, &changed] {
+        for (const auto& name : changed) {
+            scratchRecord()->setValueForKey(m_knownValues.at(name), name);
+        }
+    });
+}
+
+void OpenEditor::rememberTarget()
+{
+    m_knownValues.clear();
+    if (m_target.isNew()) {
+        return;
+    }
+    for (const auto& attribute : m_target.record->entity().attributes()) {
+        // One that is computed from another follows that.
+        if (!attribute.isTransient) {
+            m_knownValues.emplace(attribute.name, m_target.record->valueForKey(attribute.name));
+        }
+    }
 }
 
 bool OpenEditor::shouldClose()

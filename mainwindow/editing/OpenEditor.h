@@ -1,10 +1,14 @@
 #pragma once
 
 #include "mainwindow/editing/EditorTarget.h"
+#include "store/PropertyValue.h"
 #include "widgets/NSPopover.h"
 #include "widgets/PopoverAnchor.h"
 
+#include <functional>
+#include <map>
 #include <optional>
+#include <string>
 
 class EditorPlaces;
 class NSManagedObjectContext;
@@ -49,6 +53,10 @@ public:
     /// it is the same, nothing happens.
     EditorDraft retarget(const EditorTarget& target);
 
+    /// The target may have other values than the form was filled with: undo, for one, works on. The
+    /// form takes them over, but for what was typed; else a confirm would bring the old ones back.
+    void followTarget();
+
     /// Whether the popover may close by itself. An editor that protects what it holds refuses the
     /// first time, so that a press that was meant for something else costs nothing.
     bool shouldClose();
@@ -88,6 +96,7 @@ protected:
     virtual void settle(NSManagedObjectContext& context) = 0;
 
 private:
+    void rememberTarget();
     bool isConfirmed() const;
     NSManagedObject& write(NSManagedObjectContext& context);
     void putAway();
@@ -96,6 +105,8 @@ private:
     NSManagedObjectContext& m_scratchContext;
     const EditorPlaces& m_places;
     EditorTarget m_target;
+    /// The target's attributes as the form knows them; none while it is new.
+    std::map<std::string, PropertyValue, std::less<>> m_knownValues;
     NSPopover m_popover;
     bool m_hasRefused = false;
     bool m_isClosingByItself = false;

@@ -511,6 +511,11 @@
         <source>Quit</source>
         <translation>إنهاء</translation>
     </message>
+    <message>
+        <source>%1. %2</source>
+        <extracomment>Two notices in one: what was deleted, and what was not kept.</extracomment>
+        <translation type="unfinished">%1. %2</translation>
+    </message>
 </context>
 <context>
     <name>NSError</name>

@@ -503,6 +503,11 @@
         <source>Quit</source>
         <translation>Salir</translation>
     </message>
+    <message>
+        <source>%1. %2</source>
+        <extracomment>Two notices in one: what was deleted, and what was not kept.</extracomment>
+        <translation type="unfinished">%1. %2</translation>
+    </message>
 </context>
 <context>
     <name>NSError</name>

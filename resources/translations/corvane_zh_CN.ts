@@ -501,6 +501,11 @@
         <source>Quit</source>
         <translation>退出</translation>
     </message>
+    <message>
+        <source>%1. %2</source>
+        <extracomment>Two notices in one: what was deleted, and what was not kept.</extracomment>
+        <translation type="unfinished">%1。%2</translation>
+    </message>
 </context>
 <context>
     <name>NSError</name>

@@ -506,3 +506,43 @@ TEST_F(MainWindowEditingTest, anEditorWhoseCardCannotBeReadOpensWhenItCan)
     ASSERT_TRUE(fresh.statementPopover());
     EXPECT_TRUE(fresh.statementPopover()->isShown());
 }
+
+TEST_F(MainWindowEditingTest, anOpenEditorTakesOverWhatUndoPutBackButForWhatWasTyped)
+{
+    fill();
+    open();
+    auto& statement = *first->lastStatement();
+    clickDot(statement);
+    controller.getSelectedCardInfo();
+    type("balanceField", "140");
+    type("limitField", "2000");
+    statementEditor().addOrUpdateStatement();
+    controller.getSelectedCardInfo();
+    type("limitField", "6000");
+    type("paymentField", "about 12");
+    controller.undo();
+    EXPECT_EQ(typed("balanceField"), QStringLiteral("100.00"));
+    EXPECT_EQ(typed("limitField"), QStringLiteral("6000"));
+    EXPECT_EQ(typed("paymentField"), QStringLiteral("about 12"));
+    type("paymentField", "10");
+    statementEditor().addOrUpdateStatement();
+    EXPECT_EQ(statement.balance(), NSDecimalNumber::fromText("100"));
+    EXPECT_EQ(statement.limit(), NSDecimalNumber::fromText("6000"));
+    EXPECT_EQ(statement.payment(), NSDecimalNumber::fromText("10"));
+}
+
+TEST_F(MainWindowEditingTest, deletingBesideSomethingTypedOffersToGoOnWithIt)
+{
+    fill();
+    open();
+    clickDot(first->firstStatement());
+    pressAddIn(1);
+    settle();
+    type("balanceField", "444");
+    controller.delete_();
+    EXPECT_EQ(statementsInFile(), 2);
+    ASSERT_EQ(noticeButton().text(), QStringLiteral("Continue"));
+    noticeButton().click();
+    EXPECT_EQ(controller.cardForNewStatement(), second);
+    EXPECT_EQ(typed("balanceField"), QStringLiteral("444"));
+}
