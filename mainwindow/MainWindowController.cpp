@@ -379,15 +379,16 @@ void MainWindowController::contextObjectsDidChange()
 
 void MainWindowController::contextDidSave()
 {
-    // A file that could not be written may have been one that could not be read either.
-    const KeyValueChange totals(*this, "formattedTotals");
     // The axis goes by what is in the file.
     redrawTimeline();
     showModified();
     tickleCanScale();
     showInvitation();
     placeEditors();
-    m_notice->withdrawUnsaved();
+    if (m_notice->withdrawUnsaved()) {
+        // A file that could not be written may have been one that could not be read either.
+        const KeyValueChange totals(*this, "formattedTotals");
+    }
 }
 
 void MainWindowController::contextDidFailToSave(const NSError& error)

@@ -32,10 +32,13 @@ void WindowNotice::tellUnsaved(const QString& text, const QString& actionTitle,
     show();
 }
 
-void WindowNotice::withdrawUnsaved()
+bool WindowNotice::withdrawUnsaved()
 {
-    m_unsaved.reset();
-    show();
+    const bool wasTold = std::exchange(m_unsaved, std::nullopt).has_value();
+    if (wasTold) {
+        show();
+    }
+    return wasTold;
 }
 
 /// What goes before all else is announced once, and not anew whenever something happens behind it.

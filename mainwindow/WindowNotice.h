@@ -29,7 +29,8 @@ public:
 
     /// Says that something is not in the file, until what was not saved is.
     void tellUnsaved(const QString& text, const QString& actionTitle, std::function<void()> action);
-    void withdrawUnsaved();
+    /// Everything is in the file. Whether it was told that something is not.
+    bool withdrawUnsaved();
 
 private:
     struct Content

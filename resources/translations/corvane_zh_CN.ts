@@ -504,7 +504,7 @@
     <message>
         <source>%1. %2</source>
         <extracomment>Two notices in one: what was deleted, and what was not kept.</extracomment>
-        <translation type="unfinished">%1。%2</translation>
+        <translation>%1。%2</translation>
     </message>
 </context>
 <context>
