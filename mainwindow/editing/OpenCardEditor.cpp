@@ -50,14 +50,19 @@ bool OpenCardEditor::refusesFirst() const
 }
 
 /// Somebody who looks at an empty form and presses somewhere else does not mean to have a card
-/// without a name.
+/// without a name; and of a card that is as it was, nothing would be there to take back.
 bool OpenCardEditor::isWorthKeeping() const
 {
-    const auto isEmpty = [](const std::optional<QString>& text) {
-        return text.value_or(QString()).isEmpty();
-    };
-    return !target().isNew() || !isEmpty(m_form.card()->name()) ||
-           !isEmpty(m_form.card()->account());
+    const auto& typed = *m_form.card();
+    if (target().isNew()) {
+        const auto isEmpty = [](const std::optional<QString>& text) {
+            return text.value_or(QString()).isEmpty();
+        };
+        return !isEmpty(typed.name()) || !isEmpty(typed.account());
+    }
+    const auto& original = static_cast<const CVCard&>(*target().record);
+    return typed.name() != original.name() || typed.account() != original.account() ||
+           typed.ccy() != original.ccy();
 }
 
 QString OpenCardEditor::actionName() const

@@ -19,7 +19,7 @@ class CVCardPopoverController;
 /// | refuse      | a press elsewhere, the first, over a card  | it stays, and the press does what |
 /// |             | that exists                                | it does                           |
 /// | confirm     | Add, Update, Return                        | one step to undo                  |
-/// |             | a press elsewhere, while the form is as if | the same; not for a new card that |
+/// |             | a press elsewhere, while the form is as if | the same; not for a card that     |
 /// |             | confirmed                                  | nobody touched                    |
 /// | drop        | Escape, Cancel; a press elsewhere          | nothing is written                |
 /// | target gone | the card was deleted or taken back         | nothing is written                |

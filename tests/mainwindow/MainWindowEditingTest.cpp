@@ -210,6 +210,22 @@ TEST_F(MainWindowEditingTest, theCardEditorRefusesItsFirstCloseAndLosesNothing)
     EXPECT_EQ(undoManager().undoActionName(), QStringLiteral("Edit Card"));
     EXPECT_EQ(controller.editingCard(), nullptr);
 
+    // The form is still as if confirmed when it is pressed away.
+    for (const bool isTyped : {false, true}) {
+        settle();
+        controller.getInfo(rowView(1));
+        if (isTyped) {
+            type("accountField", "4410");
+        }
+        controller.cardPopover()->performClose();
+        controller.cardPopover()->performClose();
+        EXPECT_FALSE(controller.cardPopover());
+        EXPECT_EQ(notice().isShowingNotice(), isTyped) << "Undo would take back something else";
+    }
+    noticeButton().click();
+    EXPECT_EQ(second->account().value_or(QString()), QString());
+    EXPECT_EQ(second->name(), QStringLiteral("Zenith"));
+
     controller.getInfo(rowView(0));
     cardEditor().card()->setName(QStringLiteral("Gone"));
     controller.addCard();
