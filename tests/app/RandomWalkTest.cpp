@@ -606,10 +606,16 @@ private:
                     {Qt::Key_0, Qt::ControlModifier},
                     {Qt::Key_F9}};
         const auto& key = any(keys);
-        // What the notice's button does is tried where the model knows of it.
-        if (!find<NoticeBar>("noticeBar").isAncestorOf(QApplication::focusWidget())) {
+        const bool isPress =
+            key.key == Qt::Key_Space || key.key == Qt::Key_Return || key.key == Qt::Key_Enter;
+        if (!isPress || !isNotices(QApplication::focusWidget())) {
             press(key.key, key.modifiers);
         }
+    }
+    /// What its buttons do is of pressNotice() alone.
+    bool isNotices(const QWidget* widget)
+    {
+        return find<NoticeBar>("noticeBar").isAncestorOf(widget);
     }
 
     void clickAnywhere()
@@ -619,9 +625,9 @@ private:
             return static_cast<int>(below(static_cast<unsigned>(length)));
         };
         const QPoint point(any(window().width()), top + any(window().height() - top));
-        const auto& notice = find<NoticeBar>("noticeBar");
-        if (!notice.isVisible() || !notice.rect().contains(notice.mapFrom(&window(), point))) {
-            click(point, below(3) == 0 ? 2U : 1U);
+        const auto clicks = below(3) == 0 ? 2U : 1U;
+        if (!isNotices(window().childAt(point))) {
+            click(point, clicks);
         }
     }
     /// What a press did is settled before the release, as it is for a person.
