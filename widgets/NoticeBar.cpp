@@ -76,6 +76,12 @@ NoticeBar::NoticeBar(QWidget* parent)
     hide();
 }
 
+NoticeBar::~NoticeBar()
+{
+    // Its button gives up the focus when the bar is none any more.
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
 void NoticeBar::showNotice(const QString& text, const QString& actionTitle)
 {
     m_text = text;

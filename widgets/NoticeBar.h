@@ -21,6 +21,7 @@ class NoticeBar : public GradientBox
 
 public:
     explicit NoticeBar(QWidget* parent = nullptr);
+    ~NoticeBar() override;
 
     /// Shows a notice in place of the one that is there; an empty title stands for no button.
     void showNotice(const QString& text, const QString& actionTitle);

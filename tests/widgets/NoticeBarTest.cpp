@@ -75,6 +75,14 @@ TEST_F(NoticeBarTest, ItIsThereWhileThereIsANoticeAndGivesTheFocusBack)
     EXPECT_EQ(heard, QString()) << "the person pressed nothing";
 }
 
+TEST_F(NoticeBarTest, TheBarMayEndWithTheFocusInIt)
+{
+    bar->showNotice(deleted, QStringLiteral("Undo"));
+    press(Qt::Key_Tab);
+    ASSERT_EQ(nameOfFocus(), QStringLiteral("Undo"));
+    delete bar;
+}
+
 TEST_F(NoticeBarTest, EachNoticeIsAnnounced)
 {
     static QStringList announced;
