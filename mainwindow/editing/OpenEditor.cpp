@@ -57,8 +57,15 @@ EditorDraft OpenEditor::retarget(const EditorTarget& target)
     auto* const formerRecord = scratchRecord();
     m_target = target;
     m_hasRefused = false;
-    rememberTarget();
-    fillForm();
+    try {
+        rememberTarget();
+        fillForm();
+    } catch (...) {
+        // A form that was filled in part must not be confirmed for either of the two.
+        m_target = given.target;
+        drop();
+        throw;
+    }
     // Typing goes on in the field that has the focus, in place of what stands there now.
     if (auto* const field = qobject_cast<QLineEdit*>(m_form.view().focusWidget())) {
         field->selectAll();

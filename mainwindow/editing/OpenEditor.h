@@ -50,7 +50,8 @@ public:
     /// Where it stands now; absent while that is nowhere.
     std::optional<PopoverAnchor> place() const;
     /// Edits something else from now on, at the place of that, and answers what is given up. When
-    /// it is the same, nothing happens.
+    /// it is the same, nothing happens. When the other cannot be read, throws NSError, and the
+    /// editor is dropped.
     EditorDraft retarget(const EditorTarget& target);
 
     /// The target may have other values than the form was filled with: undo, for one, works on. The

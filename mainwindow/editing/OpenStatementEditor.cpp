@@ -51,6 +51,8 @@ void OpenStatementEditor::emptyForm()
 {
     m_form.setOriginalStatement(nullptr);
     m_form.setStatement(nullptr);
+    // What the card has decides about the date; nobody asks any more.
+    m_form.setCard(nullptr);
 }
 
 NSManagedObject* OpenStatementEditor::scratchRecord() const
