@@ -267,8 +267,8 @@ void CVTimelineTableView::showToolTip(const QHelpEvent& event)
         QToolTip::hideText();
         return;
     }
-    constexpr double reach = CardTimelineGeometry::reach;
-    const QRectF area(hit->point - QPointF(reach, reach), QSizeF(2 * reach, 2 * reach));
+    // No farther than to the dot: the next one may be as near.
+    const auto square = CardTimelineGeometry::rectForStatementPoint(hit->point).toAlignedRect();
     QToolTip::showText(event.globalPos(), StatementText::toolTip(*hit->statement), this,
-                       area.toAlignedRect());
+                       square.united({event.pos(), QSize(1, 1)}));
 }

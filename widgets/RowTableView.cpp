@@ -260,11 +260,12 @@ void RowTableView::mousePressEvent(QMouseEvent* event)
     showFocusFrame(false);
     const auto point = pointOfPress(*event);
     const auto row = rowAtPoint(point);
-    m_pressedRow = row ? m_model->index(*row, 0) : QModelIndex();
     if (event->button() != Qt::LeftButton || !row) {
+        m_pressedRow = QModelIndex();
         event->ignore();
         return;
     }
+    m_pressedRow = m_model->index(*row, 0);
     m_pressedPlace = point - rectOfRow(*row).topLeft();
     m_pressedScreenPoint = event->globalPosition();
     chooseRow(*row);
