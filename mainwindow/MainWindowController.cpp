@@ -368,11 +368,8 @@ void MainWindowController::contextObjectsDidChange()
     showModified();
     showInvitation();
     closeEditorsOfGoneRecords();
-    for (OpenEditor* const editor :
-         std::initializer_list<OpenEditor*>{m_cardEditor.get(), m_statementEditor.get()}) {
-        if (editor) {
-            editor->followTarget();
-        }
+    for (auto* const editor : openEditors()) {
+        editor->followTarget();
     }
     placeEditors();
 }

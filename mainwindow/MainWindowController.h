@@ -30,6 +30,7 @@ class NSError;
 class NSManagedObjectContext;
 class NSUndoManager;
 class OpenCardEditor;
+class OpenEditor;
 class OpenStatementEditor;
 class WindowNotice;
 struct ObjectChanges;
@@ -229,6 +230,14 @@ private:
     void showStatementPopoverAtPoint(const QPointF& point);
     void showSelectedStatementPopover();
     void showSelectedCardPopover();
+    /// What is open, in the order in which Escape closes it.
+    std::vector<OpenEditor*> openEditors() const;
+    /// Null for another popover.
+    OpenEditor* editorOf(const NSPopover& popover) const;
+    /// The card in whose row the sender, a widget, is; null when it is in none.
+    CVCard* cardOfSender(QObject* sender) const;
+    template <typename Editor, typename Form>
+    void openEditor(std::unique_ptr<Editor>& open, Form& form, const EditorTarget& target);
     void openCardEditor(const EditorTarget& target);
     void openStatementEditor(const EditorTarget& target);
     void cardEditorDidClose(std::unique_ptr<OpenCardEditor> editor);

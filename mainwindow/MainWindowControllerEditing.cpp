@@ -21,16 +21,12 @@
 
 #include <QAbstractButton>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
 
 using Kind = EditorTarget::Kind;
-
-bool isPopoverOf(OpenEditor* editor, const NSPopover& popover)
-{
-    return editor && &editor->popover() == &popover;
-}
 
 } // namespace
 
@@ -79,17 +75,39 @@ CVCard* MainWindowController::cardForNewStatement() const
     return m_statementEditor ? m_statementEditor->cardForNewStatement() : m_cardOfComingStatement;
 }
 
+std::vector<OpenEditor*> MainWindowController::openEditors() const
+{
+    std::vector<OpenEditor*> editors{m_statementEditor.get(), m_cardEditor.get()};
+    std::erase(editors, nullptr);
+    return editors;
+}
+
+OpenEditor* MainWindowController::editorOf(const NSPopover& popover) const
+{
+    const auto editors = openEditors();
+    const auto found = std::ranges::find_if(
+        editors, [&popover](OpenEditor* editor) { return &editor->popover() == &popover; });
+    return found == editors.end() ? nullptr : *found;
+}
+
+template <typename Editor, typename Form>
+void MainWindowController::openEditor(std::unique_ptr<Editor>& open, Form& form,
+                                      const EditorTarget& target)
+{
+    if (open) {
+        tellDropped(open->retarget(target));
+    } else if (m_editorPlaces->placeOf(target)) {
+        auto editor =
+            std::make_unique<Editor>(form, scratchContext(), *m_editorPlaces, *this, target);
+        editor->fill();
+        open = std::move(editor);
+        open->show();
+    }
+}
+
 void MainWindowController::openCardEditor(const EditorTarget& target)
 {
-    if (m_cardEditor) {
-        tellDropped(m_cardEditor->retarget(target));
-    } else if (m_editorPlaces->placeOf(target)) {
-        auto editor = std::make_unique<OpenCardEditor>(cardPopoverController(), scratchContext(),
-                                                       *m_editorPlaces, *this, target);
-        editor->fill();
-        m_cardEditor = std::move(editor);
-        m_cardEditor->show();
-    }
+    openEditor(m_cardEditor, cardPopoverController(), target);
     if (m_cardEditor) {
         const auto* const command = target.isNew() ? m_ui->addCard : m_ui->getSelectedCardInfo;
         m_cardEditor->popover().setOpener(m_ui->buttonBar->buttonForAction(command));
@@ -98,15 +116,7 @@ void MainWindowController::openCardEditor(const EditorTarget& target)
 
 void MainWindowController::openStatementEditor(const EditorTarget& target)
 {
-    if (m_statementEditor) {
-        tellDropped(m_statementEditor->retarget(target));
-    } else if (m_editorPlaces->placeOf(target)) {
-        auto editor = std::make_unique<OpenStatementEditor>(
-            statementPopoverController(), scratchContext(), *m_editorPlaces, *this, target);
-        editor->fill();
-        m_statementEditor = std::move(editor);
-        m_statementEditor->show();
-    }
+    openEditor(m_statementEditor, statementPopoverController(), target);
 }
 
 void MainWindowController::addCard()
@@ -126,17 +136,22 @@ void MainWindowController::showNewCardPopoverIfNeeded()
     }
 }
 
+CVCard* MainWindowController::cardOfSender(QObject* sender) const
+{
+    const auto* const view = qobject_cast<QWidget*>(sender);
+    const auto row = view ? m_ui->cardsTableView->rowForView(view) : std::nullopt;
+    return row ? m_ui->cardsTableView->cardAtRow(*row) : nullptr;
+}
+
 void MainWindowController::addStatement(QObject* sender)
 {
     if (!m_context) {
         return;
     }
-    const auto* const view = qobject_cast<QWidget*>(sender);
-    auto row = view ? m_ui->cardsTableView->rowForView(view) : selectedRow();
-    if (!row) {
-        row = selectedRow();
+    auto* card = cardOfSender(sender);
+    if (!card) {
+        card = selectedCard();
     }
-    auto* const card = row ? m_ui->cardsTableView->cardAtRow(*row) : nullptr;
     const EditorTarget target{Kind::NewStatement, card};
     if (!card || (m_statementEditor && m_statementEditor->target() == target)) {
         return;
@@ -175,21 +190,17 @@ void MainWindowController::dismissStatementPopover()
 
 bool MainWindowController::cancelOperation()
 {
-    if (m_statementEditor) {
-        m_statementEditor->drop();
-    } else if (m_cardEditor) {
-        m_cardEditor->drop();
-    } else {
+    const auto editors = openEditors();
+    if (editors.empty()) {
         return false;
     }
+    editors.front()->drop();
     return true;
 }
 
 void MainWindowController::getInfo(QObject* sender)
 {
-    const auto* const view = qobject_cast<QWidget*>(sender);
-    const auto row = view ? m_ui->cardsTableView->rowForView(view) : std::nullopt;
-    auto* const card = row ? m_ui->cardsTableView->cardAtRow(*row) : nullptr;
+    auto* const card = cardOfSender(sender);
     if (!card) {
         getSelectedCardInfo();
         return;
@@ -264,20 +275,16 @@ void MainWindowController::delete_()
 
 void MainWindowController::placeEditors()
 {
-    if (m_cardEditor) {
-        m_cardEditor->popover().reposition();
-    }
-    if (m_statementEditor) {
-        m_statementEditor->popover().reposition();
+    for (auto* const editor : openEditors()) {
+        editor->popover().reposition();
     }
 }
 
 /// What is written to a record that is gone would be lost without a word.
 void MainWindowController::closeEditorsOfGoneRecords()
 {
-    for (OpenEditor* const editor :
-         std::initializer_list<OpenEditor*>{m_statementEditor.get(), m_cardEditor.get()}) {
-        if (editor && editor->target().isGone()) {
+    for (auto* const editor : openEditors()) {
+        if (editor->target().isGone()) {
             const auto target = editor->target();
             editor->drop();
             tellGone(target);
@@ -301,41 +308,37 @@ void MainWindowController::tellGone(const EditorTarget& target)
 
 void MainWindowController::popoverWillShow(NSPopover& popover)
 {
-    if (isPopoverOf(m_statementEditor.get(), popover)) {
+    if (&popover == statementPopover()) {
         m_statementEditor->prepareForm();
     }
 }
 
 void MainWindowController::popoverDidShow(NSPopover& popover)
 {
-    if (isPopoverOf(m_statementEditor.get(), popover)) {
+    if (&popover == statementPopover()) {
         m_statementEditor->beginTyping();
     }
 }
 
 std::optional<PopoverAnchor> MainWindowController::popoverWillReposition(NSPopover& popover)
 {
-    if (isPopoverOf(m_statementEditor.get(), popover)) {
-        return m_statementEditor->place();
-    }
-    return isPopoverOf(m_cardEditor.get(), popover) ? m_cardEditor->place() : std::nullopt;
+    const auto* const editor = editorOf(popover);
+    return editor ? editor->place() : std::nullopt;
 }
 
 bool MainWindowController::popoverShouldClose(NSPopover& popover)
 {
-    if (isPopoverOf(m_statementEditor.get(), popover)) {
-        return m_statementEditor->shouldClose();
-    }
-    return !isPopoverOf(m_cardEditor.get(), popover) || m_cardEditor->shouldClose();
+    auto* const editor = editorOf(popover);
+    return !editor || editor->shouldClose();
 }
 
 void MainWindowController::popoverDidClose(NSPopover& popover)
 {
     // From here on it counts as closed: what is written and selected below opens nothing and
     // retargets nothing.
-    if (isPopoverOf(m_statementEditor.get(), popover)) {
+    if (&popover == statementPopover()) {
         statementEditorDidClose(std::exchange(m_statementEditor, nullptr));
-    } else if (isPopoverOf(m_cardEditor.get(), popover)) {
+    } else if (&popover == cardPopover()) {
         cardEditorDidClose(std::exchange(m_cardEditor, nullptr));
     }
 }
@@ -383,9 +386,8 @@ void MainWindowController::cardEditorDidClose(std::unique_ptr<OpenCardEditor> ed
 bool MainWindowController::warnsOfUnconfirmed()
 {
     std::vector<EditorDraft> drafts;
-    for (const OpenEditor* const editor :
-         std::initializer_list<const OpenEditor*>{m_statementEditor.get(), m_cardEditor.get()}) {
-        if (auto draft = editor ? editor->draft() : EditorDraft{}; !draft.texts.empty()) {
+    for (const auto* const editor : openEditors()) {
+        if (auto draft = editor->draft(); !draft.texts.empty()) {
             drafts.push_back(std::move(draft));
         }
     }
