@@ -21,6 +21,33 @@ QString dateOf(const CVStatement& statement)
     return date ? DateFormatter::shortText(*date) : QString();
 }
 
+/// What is said of an editor, for each kind of target.
+struct Wording
+{
+    const char* newCard;
+    /// %1 is the card.
+    const char* card;
+    const char* newStatement;
+    /// %1 is the date, %2 the card.
+    const char* statement;
+};
+
+QString said(const Wording& wording, const EditorTarget& target)
+{
+    const auto text = [](const char* source) {
+        return QCoreApplication::translate("NoticeText", source);
+    };
+    if (target.kind == EditorTarget::Kind::NewCard) {
+        return text(wording.newCard);
+    }
+    if (target.kind != EditorTarget::Kind::Statement) {
+        return text(target.isNew() ? wording.newStatement : wording.card)
+            .arg(nameOf(static_cast<const CVCard*>(target.record)));
+    }
+    const auto& statement = static_cast<const CVStatement&>(*target.record);
+    return text(wording.statement).arg(dateOf(statement), nameOf(statement.card()));
+}
+
 } // namespace
 
 QString NoticeText::deleted(const CVCard& card)
@@ -47,44 +74,20 @@ QString NoticeText::deleted(const CVStatement& statement)
 
 QString NoticeText::dropped(const EditorTarget& target)
 {
-    switch (target.kind) {
-    case EditorTarget::Kind::NewCard:
-        return QCoreApplication::translate("NoticeText", "The new card was not added");
-    case EditorTarget::Kind::Card:
-        return QCoreApplication::translate("NoticeText", "%1 was not changed")
-            .arg(nameOf(static_cast<const CVCard*>(target.record)));
-    case EditorTarget::Kind::NewStatement:
-        return QCoreApplication::translate("NoticeText", "The statement for %1 was not added")
-            .arg(nameOf(static_cast<const CVCard*>(target.record)));
-    case EditorTarget::Kind::Statement: {
-        const auto& statement = static_cast<const CVStatement&>(*target.record);
-        return QCoreApplication::translate("NoticeText",
-                                           "The statement of %1 for %2 was not changed")
-            .arg(dateOf(statement), nameOf(statement.card()));
-    }
-    }
-    return {};
+    return said({QT_TRANSLATE_NOOP("NoticeText", "The new card was not added"),
+                 QT_TRANSLATE_NOOP("NoticeText", "%1 was not changed"),
+                 QT_TRANSLATE_NOOP("NoticeText", "The statement for %1 was not added"),
+                 QT_TRANSLATE_NOOP("NoticeText", "The statement of %1 for %2 was not changed")},
+                target);
 }
 
 QString NoticeText::unconfirmed(const EditorTarget& target)
 {
-    switch (target.kind) {
-    case EditorTarget::Kind::NewCard:
-        return QCoreApplication::translate("NoticeText", "The new card is not added yet");
-    case EditorTarget::Kind::NewStatement:
-        return QCoreApplication::translate("NoticeText", "The statement for %1 is not added yet")
-            .arg(nameOf(static_cast<const CVCard*>(target.record)));
-    case EditorTarget::Kind::Card:
-        return QCoreApplication::translate("NoticeText", "%1 is not changed yet")
-            .arg(nameOf(static_cast<const CVCard*>(target.record)));
-    case EditorTarget::Kind::Statement: {
-        const auto& statement = static_cast<const CVStatement&>(*target.record);
-        return QCoreApplication::translate("NoticeText",
-                                           "The statement of %1 for %2 is not changed yet")
-            .arg(dateOf(statement), nameOf(statement.card()));
-    }
-    }
-    return {};
+    return said({QT_TRANSLATE_NOOP("NoticeText", "The new card is not added yet"),
+                 QT_TRANSLATE_NOOP("NoticeText", "%1 is not changed yet"),
+                 QT_TRANSLATE_NOOP("NoticeText", "The statement for %1 is not added yet"),
+                 QT_TRANSLATE_NOOP("NoticeText", "The statement of %1 for %2 is not changed yet")},
+                target);
 }
 
 QString NoticeText::gone(const EditorTarget& target)
